@@ -1,0 +1,15 @@
+# Warnings for the project's own targets; errors when asked (CI does).
+function(itunitechnik_warnings target)
+    if(MSVC)
+        target_compile_options(${target} PRIVATE /W4)
+        if(ITUNITECHNIK_WARNINGS_AS_ERRORS)
+            target_compile_options(${target} PRIVATE /WX)
+        endif()
+    else()
+        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+            -Wno-sign-conversion)
+        if(ITUNITECHNIK_WARNINGS_AS_ERRORS)
+            target_compile_options(${target} PRIVATE -Werror)
+        endif()
+    endif()
+endfunction()

@@ -1,0 +1,160 @@
+#pragma once
+
+#include <cstdint>
+#include <ostream>
+#include <string>
+#include <type_traits>
+
+// The field forms of the write side. Each form sets the stream state it names
+// and inserts its value with the stream's ordinary inserter; format flags, fill
+// and precision stay on the stream for the next field, the width is used up by
+// the next insertion. A record's Write is one form per field, in file order.
+namespace ItUnitechnik {
+
+// What a text form does to the adjustment: keep the one the field before left
+// in force, or set it.
+enum class Adjust { keep, left, right };
+
+struct TextForm {
+    int width;
+    std::wstring value; // already cut to the width where the form cuts
+    wchar_t fill;
+    Adjust adjust;
+};
+
+// The value's first w characters, left-aligned, blank-filled.
+TextForm Text(int width, const std::wstring& value);
+// The value's first w characters, blank-filled; pads in front unless a `left`
+// is in force. Most such fields rely on the adjustment the field before left.
+TextForm RText(int width, const std::wstring& value, Adjust adjust = Adjust::keep);
+// As RText, filled with '0'.
+TextForm ZText(int width, const std::wstring& value, Adjust adjust = Adjust::keep);
+// The whole value, zero-filled to at least w places, right-aligned: the one
+// text of the format that is not cut.
+TextForm ZTextWhole(int width, const std::wstring& value);
+
+std::wostream& operator<<(std::wostream& os, const TextForm& form);
+
+template <class T>
+struct IntegerForm {
+    enum class Kind { unsignedField, signedField, hexField };
+    Kind kind;
+    int width;
+    T value;
+};
+
+// Width w, fill '0', no plus sign, right-aligned: 42 in UInt(5) is 00042,
+// -42 is 00-42.
+template <class T>
+IntegerForm<T> UInt(int width, T value)
+{
+    static_assert(std::is_integral<T>::value, "UInt takes an integer");
+    return {IntegerForm<T>::Kind::unsignedField, width, value};
+}
+
+// Width w+1, fill '0', internal, plus sign: 42 in SInt(5) is +00042.
+template <class T>
+IntegerForm<T> SInt(int width, T value)
+{
+    static_assert(std::is_integral<T>::value, "SInt takes an integer");
+    return {IntegerForm<T>::Kind::signedField, width, value};
+}
+
+// Upper-case hexadecimal, width w, fill '0', no plus sign, right-aligned;
+// the stream goes back to decimal and lower case behind the value. A negative
+// value prints its full bit pattern.
+template <class T>
+IntegerForm<T> Hex(int width, T value)
+{
+    static_assert(std::is_integral<T>::value, "Hex takes an integer");
+    return {IntegerForm<T>::Kind::hexField, width, value};
+}
+
+template <class T>
+std::wostream& operator<<(std::wostream& os, const IntegerForm<T>& form)
+{
+    using Kind = typename IntegerForm<T>::Kind;
+    switch (form.kind) {
+    case Kind::unsignedField:
+        os.width(form.width);
+        os.fill(L'0');
+        os.unsetf(std::ios_base::showpos);
+        os.setf(std::ios_base::right, std::ios_base::adjustfield);
+        break;
+    case Kind::signedField:
+        os.width(form.width + 1);
+        os.fill(L'0');
+        os.setf(std::ios_base::internal, std::ios_base::adjustfield);
+        os.setf(std::ios_base::showpos);
+        break;
+    case Kind::hexField:
+        os.width(form.width);
+        os.fill(L'0');
+        os.unsetf(std::ios_base::showpos);
+        os.setf(std::ios_base::right, std::ios_base::adjustfield);
+        os.setf(std::ios_base::hex, std::ios_base::basefield);
+        os.setf(std::ios_base::uppercase);
+        break;
+    }
+    if constexpr (sizeof(T) == 1) {
+        os << static_cast<int>(form.value); // a byte is a number here, never a character
+    } else {
+        os << form.value;
+    }
+    if (form.kind == Kind::hexField) {
+        os.setf(std::ios_base::dec, std::ios_base::basefield);
+        os.unsetf(std::ios_base::uppercase);
+    }
+    return os;
+}
+
+struct RealForm {
+    int places;   // before the point
+    int decimals; // behind the point
+    double value;
+};
+
+// fixed, width i+d+1, fill '0', precision d, right-aligned; no point when d
+// is 0. The plus sign is left as it stands.
+RealForm Real(int places, int decimals, double value);
+std::wostream& operator<<(std::wostream& os, const RealForm& form);
+
+// One wide character with width 1, so no fill arises.
+struct CharForm {
+    wchar_t value;
+};
+CharForm Char(wchar_t value);
+std::wostream& operator<<(std::wostream& os, const CharForm& form);
+
+// A narrow literal through the narrow-string inserter, each character widened.
+struct LiteralForm {
+    const char* text;
+};
+LiteralForm Literal(const char* text);
+std::wostream& operator<<(std::wostream& os, const LiteralForm& form);
+
+struct BlankForm {};
+// The one-character literal " ".
+inline constexpr BlankForm Blank{};
+std::wostream& operator<<(std::wostream& os, BlankForm);
+
+struct BlanksForm {
+    int count;
+};
+// n blanks, one at a time; nothing for n below 1.
+BlanksForm Blanks(int count);
+std::wostream& operator<<(std::wostream& os, const BlanksForm& form);
+
+struct EndLineForm {};
+// The line end: widen('\n'), then a flush.
+inline constexpr EndLineForm EndLine{};
+std::wostream& operator<<(std::wostream& os, EndLineForm);
+
+// A record tag or end tag: the literal, then the line end.
+struct TagForm {
+    const char* text;
+};
+TagForm Tag(const char* text);
+std::wostream& operator<<(std::wostream& os, const TagForm& form);
+
+} // namespace ItUnitechnik

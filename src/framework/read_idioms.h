@@ -1,0 +1,35 @@
+#pragma once
+
+#include <istream>
+#include <string>
+
+// The idioms of the read side. A field that cannot be parsed fails the stream,
+// and every later extraction then does nothing: no Read needs code of its own
+// for that, it runs to its end and its closing test returns false.
+namespace ItUnitechnik {
+
+// At most `width` characters of the present line, stopping before a line feed,
+// blanks kept; no character at all fails the stream.
+void GetText(std::wistream& in, int width, std::wstring& into);
+// One character, whatever it is, dropped.
+void SkipChar(std::wistream& in);
+// Up to and including the next line feed, dropped.
+void SkipLine(std::wistream& in);
+// The rest of the present line; cut at its last carriage return, if any.
+std::wstring ReadLine(std::wistream& in);
+// The rest of the present line as it stands, carriage return and all.
+std::wstring ReadRestOfLine(std::wistream& in);
+// White space skipped, then the characters up to the next white space.
+std::wstring ReadToken(std::wistream& in);
+void SetSkipWs(std::wistream& in);
+void ClearSkipWs(std::wistream& in);
+
+// A tag matches when the length is equal and every character is equal.
+bool Matches(const std::wstring& text, const wchar_t* tag);
+
+// Removes blanks, tabs and line feeds from both ends, in place. A text whose
+// last significant character stands at index 0 becomes empty: `7` and `7  `
+// trim to nothing. The order record relies on exactly that.
+void Trim(std::wstring& text);
+
+} // namespace ItUnitechnik

@@ -1,0 +1,128 @@
+#include "framework/document_file_buffer.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+#include <locale>
+
+namespace ItUnitechnik {
+namespace {
+
+using Testing::ReadFileBytes;
+using Testing::TemporaryDirectory;
+using Testing::Wide;
+
+TEST(DocumentFileBuffer, OneBytePerCharacterAndCrLf)
+{
+    TemporaryDirectory dir;
+    const std::string path = dir.File("a.txt");
+    {
+        DocumentFileBuffer buffer(Wide(path));
+        ASSERT_TRUE(buffer.IsOpen());
+        Archive ar(&buffer);
+        ar << Text(4, L"A\u00E9\u00FF") << EndLine << Tag("END");
+        EXPECT_TRUE(Healthy(ar));
+    }
+    EXPECT_EQ(ReadFileBytes(path), std::string("A\xE9\xFF \r\nEND\r\n"));
+}
+
+TEST(DocumentFileBuffer, ALineFeedInsideATextBecomesCrLf)
+{
+    TemporaryDirectory dir;
+    const std::string path = dir.File("a.txt");
+    {
+        DocumentFileBuffer buffer(Wide(path));
+        Archive ar(&buffer);
+        ar << Text(5, L"A\nB") << EndLine;
+    }
+    EXPECT_EQ(ReadFileBytes(path), std::string("A\r\nB  \r\n"));
+}
+
+TEST(DocumentFileBuffer, ACharacterAboveFFBreaksTheRestOfTheFile)
+{
+    TemporaryDirectory dir;
+    const std::string path = dir.File("a.txt");
+    {
+        DocumentFileBuffer buffer(Wide(path));
+        Archive ar(&buffer);
+        ar << Tag("FIRST") << Text(6, L"AB\u0100CD") << EndLine;
+        EXPECT_TRUE(ar.bad());
+        EXPECT_FALSE(Healthy(ar));
+        ar << Tag("LATER");
+    }
+    EXPECT_EQ(ReadFileBytes(path), std::string("FIRST\r\nAB"));
+}
+
+TEST(DocumentFileBuffer, TheSameCharacterIsKeptInAStringBuffer)
+{
+    Testing::StringArchive s;
+    s.archive << Text(3, L"A\u0100") << EndLine;
+    EXPECT_EQ(s.Text(), L"A\u0100 \n");
+    EXPECT_TRUE(Healthy(s.archive));
+}
+
+TEST(DocumentFileBuffer, CutsAnExistingFile)
+{
+    TemporaryDirectory dir;
+    const std::string path = dir.File("a.txt");
+    {
+        DocumentFileBuffer buffer(Wide(path));
+        Archive ar(&buffer);
+        ar << Tag("A LONGER FIRST CONTENT");
+    }
+    {
+        DocumentFileBuffer buffer(Wide(path));
+        Archive ar(&buffer);
+        ar << Tag("B");
+    }
+    EXPECT_EQ(ReadFileBytes(path), std::string("B\r\n"));
+}
+
+TEST(DocumentFileBuffer, AMissingDirectoryCreatesNothingAndTheFirstWriteFails)
+{
+    TemporaryDirectory dir;
+    const std::string path = dir.File("missing/a.txt");
+    DocumentFileBuffer buffer(Wide(path));
+    EXPECT_FALSE(buffer.IsOpen());
+    Archive ar(&buffer);
+    EXPECT_TRUE(Healthy(ar));
+    ar << Tag("HEADER__");
+    EXPECT_TRUE(ar.bad());
+    EXPECT_FALSE(Testing::FileExists(path));
+}
+
+// A host on Linux shares our C++ runtime and may change the global locale; the
+// numbers of the file must not move by one byte.
+class CommaDecimalPoint : public std::numpunct<wchar_t> {
+protected:
+    wchar_t do_decimal_point() const override { return L','; }
+    wchar_t do_thousands_sep() const override { return L'.'; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+TEST(Archive, IgnoresACommaDecimalGlobalLocale)
+{
+    auto writeNumbers = []() {
+        Testing::StringArchive s;
+        s.archive << Real(4, 3, 1234.5) << Blank << UInt(7, 1234567) << Blank << SInt(6, -1234567)
+                  << Blank << Real(2, 1, -0.25);
+        return s.Text();
+    };
+    const std::wstring before = writeNumbers();
+    const std::locale previous =
+        std::locale::global(std::locale(std::locale::classic(), new CommaDecimalPoint));
+    const std::wstring during = writeNumbers();
+    double read = 0;
+    Testing::StringArchive in(L"12.5");
+    in.archive >> read;
+    std::locale::global(previous);
+    EXPECT_EQ(before, L"1234.500 1234567 -1234567 -0.2");
+    EXPECT_EQ(during, before);
+    EXPECT_EQ(read, 12.5);
+}
+
+} // namespace
+} // namespace ItUnitechnik

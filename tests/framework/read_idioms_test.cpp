@@ -1,0 +1,134 @@
+#include "framework/read_idioms.h"
+
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+namespace ItUnitechnik {
+namespace {
+
+using Testing::StringArchive;
+
+TEST(GetText, TakesAtMostTheWidthAndKeepsBlanks)
+{
+    StringArchive s(L"AB  CDEF\nX");
+    std::wstring text;
+    GetText(s.archive, 4, text);
+    EXPECT_EQ(text, L"AB  ");
+    GetText(s.archive, 10, text);
+    EXPECT_EQ(text, L"CDEF");
+    EXPECT_TRUE(Healthy(s.archive));
+    GetText(s.archive, 3, text); // stands before the line feed: nothing to take
+    EXPECT_TRUE(s.archive.fail());
+}
+
+TEST(SkipCharAndSkipLine, DropWhatTheyRead)
+{
+    StringArchive s(L"AB rest of line\nNEXT");
+    SkipChar(s.archive);
+    EXPECT_EQ(ReadToken(s.archive), L"B");
+    SkipLine(s.archive);
+    EXPECT_EQ(ReadToken(s.archive), L"NEXT");
+}
+
+TEST(ReadLine, CutsAtTheLastCarriageReturn)
+{
+    StringArchive s(L"END HEADER__\r\nA\rB\rC\nlast");
+    EXPECT_EQ(ReadLine(s.archive), L"END HEADER__");
+    EXPECT_EQ(ReadLine(s.archive), L"A\rB");
+    EXPECT_EQ(ReadLine(s.archive), L"last");
+    EXPECT_TRUE(Healthy(s.archive));
+    ReadLine(s.archive);
+    EXPECT_FALSE(Healthy(s.archive));
+}
+
+TEST(ReadRestOfLine, KeepsTheCarriageReturn)
+{
+    StringArchive s(L"text\r\n");
+    EXPECT_EQ(ReadRestOfLine(s.archive), L"text\r");
+}
+
+TEST(SkipWs, TextFieldsStartingWithABlank)
+{
+    StringArchive s(L"1  AB");
+    int number = 0;
+    s.archive >> number;
+    ClearSkipWs(s.archive);
+    std::wstring text;
+    SkipChar(s.archive);
+    GetText(s.archive, 3, text);
+    EXPECT_EQ(text, L" AB");
+    SetSkipWs(s.archive);
+    EXPECT_TRUE(s.archive.flags() & std::ios_base::skipws);
+}
+
+TEST(Matches, LengthAndEveryCharacter)
+{
+    EXPECT_TRUE(Matches(L"END", L"END"));
+    EXPECT_FALSE(Matches(L"END ", L"END"));
+    EXPECT_FALSE(Matches(L"EN", L"END"));
+    EXPECT_FALSE(Matches(L"END HEADER__ ", L"END HEADER__"));
+}
+
+TEST(Trim, BothEnds)
+{
+    std::wstring text = L" \tAB C\n ";
+    Trim(text);
+    EXPECT_EQ(text, L"AB C");
+}
+
+TEST(Trim, AllBlanksBecomeEmpty)
+{
+    std::wstring text = L"   ";
+    Trim(text);
+    EXPECT_EQ(text, L"");
+    text.clear();
+    Trim(text);
+    EXPECT_EQ(text, L"");
+}
+
+TEST(Trim, ASignificantCharacterOnlyAtIndexZeroEmptiesTheText)
+{
+    std::wstring seven = L"7";
+    Trim(seven);
+    EXPECT_EQ(seven, L"");
+    std::wstring sevenBlanks = L"7   ";
+    Trim(sevenBlanks);
+    EXPECT_EQ(sevenBlanks, L"");
+    std::wstring blankSeven = L" 7";
+    Trim(blankSeven);
+    EXPECT_EQ(blankSeven, L"7");
+    std::wstring twoCharacters = L"AB";
+    Trim(twoCharacters);
+    EXPECT_EQ(twoCharacters, L"AB");
+}
+
+TEST(Trim, CarriageReturnIsNotInTheSet)
+{
+    std::wstring text = L"AB\r";
+    Trim(text);
+    EXPECT_EQ(text, L"AB\r");
+}
+
+TEST(Healthy, BadThenFailThenValid)
+{
+    StringArchive s;
+    EXPECT_TRUE(Healthy(s.archive));
+    s.archive.valid = false;
+    EXPECT_FALSE(Healthy(s.archive));
+    s.archive.valid = true;
+    s.archive.setstate(std::ios_base::failbit);
+    EXPECT_FALSE(Healthy(s.archive));
+}
+
+TEST(Archive, StartsAsTheFormatNeedsIt)
+{
+    StringArchive s;
+    EXPECT_TRUE(s.archive.valid);
+    EXPECT_FALSE(s.archive.spareFlag);
+    EXPECT_TRUE(s.archive.flags() & std::ios_base::skipws);
+    EXPECT_EQ(s.archive.exceptions(), std::ios_base::goodbit);
+}
+
+} // namespace
+} // namespace ItUnitechnik

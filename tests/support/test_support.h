@@ -1,0 +1,49 @@
+#pragma once
+
+#include "framework/archive.h"
+
+#include <sstream>
+#include <string>
+
+namespace ItUnitechnik::Testing {
+
+// An Archive over a wide string buffer, as the summary string uses it: lines
+// end in a single line feed and every character is kept.
+class StringArchive {
+public:
+    StringArchive() : archive(&buffer) {}
+    explicit StringArchive(const std::wstring& input) : buffer(input), archive(&buffer) {}
+
+    std::wstring Text() const { return buffer.str(); }
+
+    std::wstringbuf buffer;
+    Archive archive;
+};
+
+// Bytes of a file; empty when it cannot be read.
+std::string ReadFileBytes(const std::string& path);
+bool FileExists(const std::string& path);
+
+// A fresh, empty directory for one test; removed with everything in it.
+class TemporaryDirectory {
+public:
+    TemporaryDirectory();
+    ~TemporaryDirectory();
+    TemporaryDirectory(const TemporaryDirectory&) = delete;
+    TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;
+    const std::string& Path() const { return path_; }
+    std::string File(const std::string& name) const { return path_ + "/" + name; }
+
+private:
+    std::string path_;
+};
+
+// A readable account of the first difference of two texts: line and column,
+// and both lines with CR and LF made visible. Empty when they are equal.
+std::string DescribeDifference(const std::string& expected, const std::string& actual);
+
+// The narrow text as a wide string, one character per byte.
+std::wstring Wide(const std::string& text);
+std::string Narrow(const std::wstring& text);
+
+} // namespace ItUnitechnik::Testing
