@@ -1,0 +1,23 @@
+#include "records/order/address.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "records/order/text_lines.h"
+
+namespace ItUnitechnik {
+
+bool Address::Read(Archive& ar)
+{
+    return ReadTextLines(ar, {&addressText1, &addressText2, &addressText3, &addressText4});
+}
+
+bool Address::Write(Archive& ar)
+{
+    ar << Text(25, addressText1) << EndLine;
+    ar << Text(25, addressText2) << EndLine;
+    ar << Text(8, addressText3) << EndLine;
+    ar << Text(25, addressText4) << EndLine;
+    return Healthy(ar);
+}
+
+} // namespace ItUnitechnik

@@ -1,0 +1,180 @@
+#include "records/order/order.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "framework/read_idioms.h"
+
+namespace ItUnitechnik {
+
+Order::Order()
+{
+    date.version = version;
+}
+
+Order::Order(const Order& other)
+    : Serializable(other),
+      version(other.version),
+      orderNumber(other.orderNumber),
+      orderText5(other.orderText5),
+      orderText4(other.orderText4),
+      orderText8(other.orderText8),
+      orderValue2(other.orderValue2),
+      legacyText2(other.legacyText2),
+      legacyText40(other.legacyText40),
+      orderText2(other.orderText2),
+      project(other.project),
+      firstAddress(other.firstAddress),
+      secondAddress(other.secondAddress),
+      date(other.date),
+      orderText40(other.orderText40)
+{
+    date.version = version;
+}
+
+Order& Order::operator=(const Order& other)
+{
+    version = other.version;
+    orderNumber = other.orderNumber;
+    orderText5 = other.orderText5;
+    orderText4 = other.orderText4;
+    orderText8 = other.orderText8;
+    orderValue2 = other.orderValue2;
+    legacyText2 = other.legacyText2;
+    legacyText40 = other.legacyText40;
+    orderText2 = other.orderText2;
+    project = other.project;
+    firstAddress = other.firstAddress;
+    secondAddress = other.secondAddress;
+    date = other.date;
+    orderText40 = other.orderText40;
+    date.version = version;
+    return *this;
+}
+
+bool Order::Write(Archive& ar)
+{
+    ar << Tag("HEADER__");
+
+    ar << UInt(3, version) << EndLine;
+
+    if (version < 600) {
+        ar << Text(8, orderNumber);
+        ar << Blanks(2) << Blank;
+    } else {
+        ar << Text(20, orderNumber);
+        ar << Blank;
+    }
+    ar << Text(5, orderText5);
+    ar << Blank;
+    ar << Text(4, orderText4);
+    ar << Blank;
+    ar << RText(8, orderText8, Adjust::right);
+    ar << Blank;
+    ar << UInt(2, orderValue2);
+    ar << Blank;
+    if (version <= 502) {
+        ar << RText(2, legacyText2);
+        ar << Blank;
+        ar << RText(40, legacyText40);
+    } else {
+        ar << RText(2, orderText2);
+    }
+    ar << EndLine;
+
+    project.Write(ar);
+    firstAddress.Write(ar);
+    secondAddress.Write(ar);
+    date.Write(ar);
+    ar << EndLine;
+
+    if (version >= 600) {
+        ar << Text(40, orderText40) << EndLine;
+    }
+
+    // The element count line; no element records yet.
+    const std::uint32_t elementCount = 0;
+    ar << Literal("0");
+    ar << Blank;
+    ar << UInt(2, elementCount);
+    ar << Blank;
+    ar << Literal("000") << EndLine;
+
+    ar << Tag("END");
+    ar << Tag("END HEADER__");
+    return Healthy(ar);
+}
+
+bool Order::Read(Archive& ar)
+{
+    if (!Matches(ReadToken(ar), L"HEADER__")) {
+        return false;
+    }
+    ar >> version;
+    date.version = version;
+    SkipLine(ar);
+
+    if (version < 600) {
+        GetText(ar, 8, orderNumber);
+        SkipChar(ar);
+        SkipChar(ar);
+    } else {
+        GetText(ar, 20, orderNumber);
+    }
+    SkipChar(ar);
+    Trim(orderNumber);
+
+    // Kept as they stand: orderText8 its leading blanks, the others their
+    // trailing ones.
+    GetText(ar, 5, orderText5);
+    SkipChar(ar);
+    GetText(ar, 4, orderText4);
+    SkipChar(ar);
+    GetText(ar, 8, orderText8);
+
+    ar >> orderValue2;
+
+    // The reader splits at 600 where the writer splits at 502: a file of 503
+    // to 599 does not read back.
+    SkipChar(ar);
+    ClearSkipWs(ar);
+    if (version < 600) {
+        GetText(ar, 2, legacyText2);
+        SkipChar(ar);
+        GetText(ar, 40, legacyText40);
+    } else {
+        GetText(ar, 2, orderText2);
+    }
+    SetSkipWs(ar);
+    SkipLine(ar);
+
+    project.Read(ar);
+    firstAddress.Read(ar);
+    secondAddress.Read(ar);
+    date.Read(ar);
+
+    if (version >= 600) {
+        // What stands behind the date on its line, normally nothing: the text
+        // line the writer put below it is skipped next, so orderText40 does not
+        // survive a round trip.
+        orderText40 = ReadRestOfLine(ar);
+        Trim(orderText40);
+    }
+
+    SkipLine(ar);
+    ReadToken(ar);
+    std::int32_t elementCount = 0;
+    ar >> elementCount;
+    SkipLine(ar);
+    if (!Matches(ReadToken(ar), L"END")) {
+        ar.valid = false;
+        return false;
+    }
+
+    if (!Matches(ReadLine(ar), L"END HEADER__")) {
+        ar.valid = false;
+        return false;
+    }
+    return Healthy(ar);
+}
+
+} // namespace ItUnitechnik

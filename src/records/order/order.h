@@ -1,0 +1,40 @@
+#pragma once
+
+#include "framework/serializable.h"
+#include "records/order/address.h"
+#include "records/order/date.h"
+#include "records/order/project.h"
+
+#include <cstdint>
+#include <string>
+
+namespace ItUnitechnik {
+
+// One production order: the record "HEADER__" ... "END HEADER__". Its layout
+// changes at 502/503 and at 600.
+class Order : public Serializable {
+public:
+    Order();
+    Order(const Order& other);
+    Order& operator=(const Order& other);
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::int16_t version = 502;    // line 2; copied into `date`
+    std::wstring orderNumber;      // line 3, 8 wide below 600, 20 from 600
+    std::wstring orderText5 = L"     ";
+    std::wstring orderText4 = L"    ";
+    std::wstring orderText8;       // line 3, right-aligned
+    std::int16_t orderValue2 = 0;  // line 3, two digits
+    std::wstring legacyText2 = L"00";                   // line 3, up to 502
+    std::wstring legacyText40 = std::wstring(40, L' '); // line 3, up to 502; the alternate stream from 600
+    std::wstring orderText2;       // line 3, above 502
+    Project project;               // lines 4 to 7
+    Address firstAddress;          // lines 8 to 11
+    Address secondAddress;         // lines 12 to 15
+    Date date;                     // line 16
+    std::wstring orderText40;      // line 17, from 600
+};
+
+} // namespace ItUnitechnik

@@ -1,0 +1,32 @@
+#include "records/order/project.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "framework/read_idioms.h"
+#include "records/order/text_lines.h"
+
+namespace ItUnitechnik {
+
+bool ReadTextLines(Archive& ar, std::initializer_list<std::wstring*> members)
+{
+    for (std::wstring* member : members) {
+        *member = ReadLine(ar);
+    }
+    return Healthy(ar);
+}
+
+bool Project::Read(Archive& ar)
+{
+    return ReadTextLines(ar, {&projectText1, &projectText2, &projectText3, &projectText4});
+}
+
+bool Project::Write(Archive& ar)
+{
+    ar << Text(20, projectText1) << EndLine;
+    ar << Text(20, projectText2) << EndLine;
+    ar << Text(20, projectText3) << EndLine;
+    ar << Text(20, projectText4) << EndLine;
+    return Healthy(ar);
+}
+
+} // namespace ItUnitechnik
