@@ -1,0 +1,33 @@
+#include "geometry/edge.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+
+namespace ItUnitechnik {
+
+bool Edge::Read(Archive& ar)
+{
+    first.Read(ar);
+    second.Read(ar);
+    return Healthy(ar);
+}
+
+bool Edge::Write(Archive& ar)
+{
+    first.Write(ar);
+    ar << Blank;
+    second.Write(ar);
+    return Healthy(ar);
+}
+
+bool operator==(const Edge& a, const Edge& b)
+{
+    return a.first == b.first && a.second == b.second;
+}
+
+bool operator!=(const Edge& a, const Edge& b)
+{
+    return !(a == b);
+}
+
+} // namespace ItUnitechnik

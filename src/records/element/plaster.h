@@ -1,0 +1,25 @@
+#pragma once
+
+#include "framework/serializable.h"
+
+#include <cstdint>
+#include <string>
+
+namespace ItUnitechnik {
+
+// A field group on the element's line; it has no version of its own and
+// writes no line end.
+class Plaster : public Serializable {
+public:
+    Plaster() = default;
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::int32_t plasterNumber = 0; // first field
+    std::wstring plasterName;       // second field, 8 places
+    double firstValue = 0.0;        // third field
+    double secondValue = 0.0;       // last field
+};
+
+} // namespace ItUnitechnik
