@@ -3,7 +3,12 @@
 #include "exports/document.h"
 #include "exports/host_text.h"
 
+#include <cmath>
+#include <string>
+
+using ItUnitechnik::ElementPart;
 using ItUnitechnik::Order;
+using ItUnitechnik::Point3d;
 using ItUnitechnik::theDocument;
 
 extern "C" {
@@ -13,10 +18,6 @@ ITUNITECHNIK_API int32_t startOrder(uint16_t orderValue, int32_t elementNumberAr
                                     const it_char16* elementTextArg, double elementMeasureArg,
                                     bool clearDocument)
 {
-    static_cast<void>(elementNumberArg);
-    static_cast<void>(placement);
-    static_cast<void>(elementTextArg);
-    static_cast<void>(elementMeasureArg);
     if (clearDocument) {
         theDocument.orders.clear(); // directly on the vector, no hook
     }
@@ -24,6 +25,23 @@ ITUNITECHNIK_API int32_t startOrder(uint16_t orderValue, int32_t elementNumberAr
     order.orderValue2 = static_cast<int16_t>(orderValue);
     order.version = static_cast<int16_t>(version);
     order.date.version = order.version;
+
+    ElementPart element;
+    Point3d* const points[3] = {&element.firstPoint, &element.secondPoint, &element.thirdPoint};
+    for (int i = 0; i < 3; ++i) {
+        points[i]->x = ItUnitechnik::TruncateToInt32(std::round(placement[3 * i]));
+        points[i]->y = ItUnitechnik::TruncateToInt32(std::round(placement[3 * i + 1]));
+        points[i]->z = ItUnitechnik::TruncateToInt32(std::round(placement[3 * i + 2]));
+    }
+    element.version = order.version;
+    element.elementMeasure = elementMeasureArg;
+    element.elementNumber = static_cast<int16_t>(elementNumberArg);
+    element.elementNumberText = std::to_wstring(elementNumberArg);
+    element.elementText30 = ItUnitechnik::FromHost(elementTextArg);
+    element.firstPlaster = ItUnitechnik::Plaster();
+    element.secondPlaster = ItUnitechnik::Plaster();
+    order.Add(element);
+
     theDocument.Add(order);
     return 1;
 }

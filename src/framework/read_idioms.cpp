@@ -80,3 +80,31 @@ void Trim(std::wstring& text)
 }
 
 } // namespace ItUnitechnik
+
+namespace ItUnitechnik {
+
+int WideToInt(const std::wstring& text)
+{
+    std::size_t i = 0;
+    while (i < text.size()
+           && (text[i] == L' ' || text[i] == L'\t' || text[i] == L'\n' || text[i] == L'\v'
+               || text[i] == L'\f' || text[i] == L'\r')) {
+        ++i;
+    }
+    bool negative = false;
+    if (i < text.size() && (text[i] == L'+' || text[i] == L'-')) {
+        negative = text[i] == L'-';
+        ++i;
+    }
+    const long long limit = negative ? 2147483648LL : 2147483647LL;
+    long long value = 0;
+    for (; i < text.size() && text[i] >= L'0' && text[i] <= L'9'; ++i) {
+        value = value * 10 + (text[i] - L'0');
+        if (value > limit) {
+            value = limit;
+        }
+    }
+    return static_cast<int>(negative ? -value : value);
+}
+
+} // namespace ItUnitechnik

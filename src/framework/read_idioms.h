@@ -33,3 +33,12 @@ bool Matches(const std::wstring& text, const wchar_t* tag);
 void Trim(std::wstring& text);
 
 } // namespace ItUnitechnik
+
+namespace ItUnitechnik {
+
+// Wide text to integer as the C runtime's _wtoi does it: white space and a
+// sign in front, digits as far as they go, 0 when there are none; a value
+// beyond 32 bits gives the nearest 32-bit limit.
+int WideToInt(const std::wstring& text);
+
+} // namespace ItUnitechnik

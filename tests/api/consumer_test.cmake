@@ -7,8 +7,13 @@ execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_
 if(NOT status EQUAL 0)
     message(FATAL_ERROR "install failed")
 endif()
+# A sanitized library needs a sanitized host.
+set(flags "")
+if(SANITIZE)
+    set(flags "-DCMAKE_C_FLAGS=-fsanitize=${SANITIZE}")
+endif()
 execute_process(COMMAND ${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${WORK_DIR}/build
-    -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix RESULT_VARIABLE status OUTPUT_QUIET)
+    -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix ${flags} RESULT_VARIABLE status OUTPUT_QUIET)
 if(NOT status EQUAL 0)
     message(FATAL_ERROR "configuring the consumer failed")
 endif()

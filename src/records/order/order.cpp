@@ -6,13 +6,14 @@
 
 namespace ItUnitechnik {
 
-Order::Order()
+Order::Order() : ItCollectionImpl<std::vector<ElementPart>>(&elementParts)
 {
     date.version = version;
 }
 
 Order::Order(const Order& other)
     : Serializable(other),
+      ItCollectionImpl<std::vector<ElementPart>>(&elementParts),
       version(other.version),
       orderNumber(other.orderNumber),
       orderText5(other.orderText5),
@@ -26,7 +27,8 @@ Order::Order(const Order& other)
       firstAddress(other.firstAddress),
       secondAddress(other.secondAddress),
       date(other.date),
-      orderText40(other.orderText40)
+      orderText40(other.orderText40),
+      elementParts(other.elementParts)
 {
     date.version = version;
 }
@@ -47,6 +49,7 @@ Order& Order::operator=(const Order& other)
     secondAddress = other.secondAddress;
     date = other.date;
     orderText40 = other.orderText40;
+    elementParts = other.elementParts;
     date.version = version;
     return *this;
 }
@@ -91,15 +94,17 @@ bool Order::Write(Archive& ar)
         ar << Text(40, orderText40) << EndLine;
     }
 
-    // The element count line; no element records yet.
-    const std::uint32_t elementCount = 0;
     ar << Literal("0");
     ar << Blank;
-    ar << UInt(2, elementCount);
+    ar << UInt(2, static_cast<std::uint32_t>(elementParts.size()));
     ar << Blank;
     ar << Literal("000") << EndLine;
 
     ar << Tag("END");
+
+    for (ElementPart& element : elementParts) {
+        element.Write(ar);
+    }
     ar << Tag("END HEADER__");
     return Healthy(ar);
 }
@@ -168,6 +173,18 @@ bool Order::Read(Archive& ar)
     if (!Matches(ReadToken(ar), L"END")) {
         ar.valid = false;
         return false;
+    }
+
+    // An element that fails is not kept and does not stop the loop. The
+    // counter is 16 bits wide, as the format's element numbers are.
+    if (elementCount > 0) {
+        for (std::int16_t i = 0; i < elementCount; ++i) {
+            ElementPart element;
+            element.Read(ar);
+            if (Healthy(ar)) {
+                elementParts.push_back(element);
+            }
+        }
     }
 
     if (!Matches(ReadLine(ar), L"END HEADER__")) {

@@ -1,18 +1,21 @@
 #pragma once
 
+#include "framework/collection.h"
 #include "framework/serializable.h"
+#include "records/element/element_part.h"
 #include "records/order/address.h"
 #include "records/order/date.h"
 #include "records/order/project.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace ItUnitechnik {
 
 // One production order: the record "HEADER__" ... "END HEADER__". Its layout
 // changes at 502/503 and at 600.
-class Order : public Serializable {
+class Order : public Serializable, public ItCollectionImpl<std::vector<ElementPart>> {
 public:
     Order();
     Order(const Order& other);
@@ -35,6 +38,7 @@ public:
     Address secondAddress;         // lines 12 to 15
     Date date;                     // line 16
     std::wstring orderText40;      // line 17, from 600
+    std::vector<ElementPart> elementParts; // the element records, between "END" and "END HEADER__"
 };
 
 } // namespace ItUnitechnik

@@ -1,0 +1,330 @@
+#include "records/element/element_part.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "framework/read_idioms.h"
+
+#include <locale>
+#include <sstream>
+
+namespace ItUnitechnik {
+
+ElementPart::ElementPart() : ItCollectionImpl<std::vector<ConcreteLayer>>(&concreteLayers)
+{
+    codeA1 = L"0";
+    codeA2 = L"00";
+    codeA3 = L"000";
+    codeA4 = L"0000";
+    codeB1 = L"000";
+    codeB2 = L"00";
+    textB8 = L"        ";
+}
+
+ElementPart::ElementPart(const ElementPart& other)
+    : Serializable(other), ItCollectionImpl<std::vector<ConcreteLayer>>(&concreteLayers)
+{
+    *this = other;
+}
+
+bool ElementPart::HasLongLines() const
+{
+    return version > 500 || version == 5;
+}
+
+bool ElementPart::Write(Archive& ar)
+{
+    ar << Tag("SLABDATE");
+
+    ar << UInt(3, version) << EndLine;
+
+    // Line A. From 600 the number is a left-aligned text, and the left
+    // adjustment it leaves puts the zeros of the next two codes behind them.
+    if (version < 600) {
+        ar << UInt(3, elementNumber);
+    } else {
+        ar << Text(15, elementNumberText);
+    }
+    ar << Blank;
+    ar << ZText(1, codeA1);
+    ar << Blank;
+    ar << ZText(2, codeA2);
+    ar << Blank;
+    ar << UInt(2, valueA1);
+    ar << Blank;
+    ar << UInt(2, valueA2);
+    ar << Blank;
+    ar << ZText(3, codeA3);
+    ar << Blank;
+    if (version < 600) {
+        ar << UInt(3, valueA3);
+    } else {
+        ar << UInt(5, valueA3);
+    }
+    ar << Blank;
+    ar << UInt(3, valueA4);
+    ar << Blank;
+    ar << UInt(3, valueA5);
+    if (HasLongLines()) {
+        ar << Blank;
+        ar << UInt(2, valueA6);
+        ar << Blank;
+        ar << UInt(2, valueA7);
+        ar << Blank;
+        if (version < 600) {
+            ar << ZText(4, codeA4);
+        } else {
+            ar << RText(40, textA40);
+        }
+    }
+    ar << EndLine;
+
+    // Line B.
+    ar << Real(2, 3, elementMeasure);
+    ar << Blank;
+    ar << ZText(3, codeB1);
+    ar << Blank;
+    ar << ZText(2, codeB2);
+    ar << Blank;
+    ar << RText(8, textB8);
+    ar << Blank;
+    ar << Real(1, 3, realB1);
+    ar << Blank;
+    ar << Real(5, 1, layerProductSum);
+    ar << Blank;
+    ar << UInt(4, thickness);
+    ar << Blank;
+    ar << UInt(3, doubleWallGap);
+    ar << Blank;
+    ar << ZText(3, codeB3);
+    ar << Blank;
+    ar << ZText(3, codeB4);
+    ar << Blank;
+    ar << UInt(3, valueB1);
+    ar << Blank;
+    ar << UInt(3, valueB2);
+    if (HasLongLines()) {
+        ar << Blank;
+        ar << UInt(4, secondThickness);
+    }
+    ar << EndLine;
+
+    if (version == 502) {
+        firstPlaster.Write(ar);
+        ar << Blank;
+        secondPlaster.Write(ar);
+        ar << EndLine;
+    }
+
+    if (version >= 502) {
+        ar << UInt(2, static_cast<std::uint32_t>(concreteLayers.size())) << EndLine;
+        for (ConcreteLayer& layer : concreteLayers) {
+            layer.Write(ar);
+            ar << EndLine;
+        }
+    }
+
+    // Line C.
+    ar << UInt(5, extentX);
+    ar << Blank << UInt(5, extentY);
+    ar << Blank << SInt(4, valueC1);
+    ar << Blank << SInt(4, valueC2);
+    ar << Blank << SInt(4, valueC3);
+    ar << Blank << SInt(4, valueC4);
+    ar << Blank << UInt(1, valueC5);
+    ar << Blank << UInt(5, valueC6);
+    ar << Blank << UInt(1, valueC7);
+    ar << Blank << UInt(5, valueC8);
+    ar << Blank;
+    elementVector.Write(ar);
+    ar << Blank << SInt(2, valueC9);
+    ar << Blank << SInt(2, valueC10);
+    if (version < 600 && valueC11 != -1 && valueC12 != -1) {
+        ar << Blank << UInt(3, valueC11);
+        ar << Blank << UInt(3, valueC12);
+    }
+    ar << EndLine;
+
+    if (version < 503) {
+        firstEdge.Write(ar);
+        ar << Blank;
+        secondEdge.Write(ar);
+        ar << EndLine;
+    }
+
+    // Line D.
+    ar << RText(8, textD8);
+    ar << Blank;
+    ar << RText(4, textD4);
+    ar << Blank;
+    ar << UInt(4, valueD1);
+    ar << Blank;
+    ar << UInt(4, valueD2);
+    ar << Blank;
+    ar << UInt(2, valueD3);
+    ar << Blank;
+    ar << RText(30, elementText30) << EndLine;
+
+    // Line E.
+    if (version < 600) {
+        firstPoint.Write(ar);
+        ar << Blank;
+        secondPoint.Write(ar);
+        ar << Blank;
+        thirdPoint.Write(ar);
+    } else {
+        ar << SInt(6, firstPoint.x) << Blank << SInt(6, firstPoint.y) << Blank << SInt(6, firstPoint.z);
+        ar << Blank;
+        ar << SInt(6, secondPoint.x) << Blank << SInt(6, secondPoint.y) << Blank << SInt(6, secondPoint.z);
+        ar << Blank;
+        ar << SInt(6, thirdPoint.x) << Blank << SInt(6, thirdPoint.y) << Blank << SInt(6, thirdPoint.z);
+    }
+    ar << EndLine;
+
+    if (version >= 600) {
+        // Line F.
+        ar << SInt(5, fourthPoint.x);
+        ar << Blank;
+        ar << SInt(5, fourthPoint.y);
+        ar << Blank;
+        ar << SInt(5, fourthPoint.z);
+        ar << Blank;
+        ar << UInt(3, valueF1) << EndLine;
+
+        // Lines G.
+        ar << RText(20, slabInfo1) << EndLine;
+        ar << RText(20, slabInfo2) << EndLine;
+        ar << RText(20, slabInfo3) << EndLine;
+        ar << RText(20, slabInfo4) << EndLine;
+    }
+
+    ar << Tag("END");
+
+    ar << Tag("END SLABDATE");
+    return Healthy(ar);
+}
+
+bool ElementPart::Read(Archive& ar)
+{
+    if (!Matches(ReadToken(ar), L"SLABDATE")) {
+        ar.valid = false;
+        return false;
+    }
+    ar >> version;
+
+    // Line A.
+    if (version < 600) {
+        ar >> elementNumber;
+    } else {
+        elementNumberText = ReadToken(ar);
+        elementNumber = static_cast<std::int16_t>(WideToInt(elementNumberText));
+    }
+    codeA1 = ReadToken(ar);
+    codeA2 = ReadToken(ar);
+    ar >> valueA1 >> valueA2;
+    codeA3 = ReadToken(ar);
+    ar >> valueA3 >> valueA4 >> valueA5;
+    if (version >= 501 || version == 5) {
+        ar >> valueA6 >> valueA7;
+        if (version < 600) {
+            codeA4 = ReadToken(ar);
+        } else {
+            SkipChar(ar);
+            GetText(ar, 40, textA40);
+        }
+    }
+    SkipLine(ar);
+
+    // Line B.
+    ar >> elementMeasure;
+    codeB1 = ReadToken(ar);
+    codeB2 = ReadToken(ar);
+    SkipChar(ar);
+    GetText(ar, 8, textB8);
+    ar >> realB1 >> layerProductSum >> thickness >> doubleWallGap;
+    codeB3 = ReadToken(ar);
+    codeB4 = ReadToken(ar);
+    ar >> valueB1 >> valueB2;
+    if (HasLongLines()) {
+        ar >> secondThickness;
+    }
+    SkipLine(ar);
+
+    if (version == 502) {
+        firstPlaster.Read(ar);
+        secondPlaster.Read(ar);
+    }
+
+    if (version >= 502) {
+        std::int32_t count = 0;
+        ar >> count;
+        for (std::int32_t i = 0; i < count; ++i) {
+            ConcreteLayer layer(version);
+            layer.Read(ar);
+            if (Healthy(ar)) {
+                concreteLayers.push_back(layer);
+            }
+        }
+        SkipLine(ar);
+    }
+
+    // Line C. The optional pair is there when the line goes on behind the
+    // tenth value.
+    ar >> extentX >> extentY >> valueC1 >> valueC2 >> valueC3 >> valueC4 >> valueC5 >> valueC6
+        >> valueC7 >> valueC8;
+    elementVector.Read(ar);
+    SkipChar(ar);
+    {
+        std::wistringstream rest(ReadLine(ar));
+        rest.imbue(std::locale::classic());
+        rest >> valueC9 >> valueC10;
+        if (!rest.eof()) {
+            rest >> valueC11 >> valueC12;
+        }
+    }
+
+    if (version <= 502) {
+        firstEdge.Read(ar);
+        secondEdge.Read(ar);
+        SkipLine(ar);
+    }
+
+    // Line D.
+    GetText(ar, 8, textD8);
+    SkipChar(ar);
+    GetText(ar, 4, textD4);
+    ar >> valueD1 >> valueD2 >> valueD3;
+    SkipChar(ar);
+    elementText30 = ReadLine(ar);
+
+    // Line E, read by the points' own reader at every version.
+    firstPoint.Read(ar);
+    secondPoint.Read(ar);
+    thirdPoint.Read(ar);
+    SkipLine(ar);
+
+    if (version >= 600) {
+        fourthPoint.Read(ar);
+        SkipChar(ar);
+        std::wstring text;
+        GetText(ar, 3, text);
+        valueF1 = WideToInt(text);
+        SkipLine(ar);
+        slabInfo1 = ReadLine(ar);
+        slabInfo2 = ReadLine(ar);
+        slabInfo3 = ReadLine(ar);
+        slabInfo4 = ReadLine(ar);
+    }
+
+    if (!Matches(ReadToken(ar), L"END")) {
+        return false;
+    }
+    SkipLine(ar);
+
+    if (!Matches(ReadLine(ar), L"END SLABDATE")) {
+        ar.valid = false;
+        return false;
+    }
+    return Healthy(ar);
+}
+
+} // namespace ItUnitechnik

@@ -1,0 +1,480 @@
+#include "records/element/element_part.h"
+
+#include "framework/archive.h"
+#include "records/order/order.h"
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace ItUnitechnik {
+namespace {
+
+using Testing::StringArchive;
+
+std::wstring Blanks(std::size_t n)
+{
+    return std::wstring(n, L' ');
+}
+
+std::vector<std::wstring> Lines(const std::wstring& text)
+{
+    std::vector<std::wstring> lines;
+    std::wstring line;
+    for (wchar_t c : text) {
+        if (c == L'\n') {
+            lines.push_back(line);
+            line.clear();
+        } else {
+            line += c;
+        }
+    }
+    EXPECT_TRUE(line.empty()) << "the text ends without a line end";
+    return lines;
+}
+
+ElementPart AtVersion(std::int16_t version)
+{
+    ElementPart element;
+    element.version = version;
+    return element;
+}
+
+std::vector<std::wstring> Written(ElementPart element)
+{
+    StringArchive s;
+    EXPECT_TRUE(element.Write(s.archive));
+    return Lines(s.Text());
+}
+
+// The lines of a default element, written out from the record's tables.
+const std::wstring shortLineA = L"012 0 00 00 00 000 000 000 000";
+const std::wstring longLineA = shortLineA + L" 00 00 0000";
+const std::wstring shortLineB = L"00.000 000 00          0.000 00000.0 0000 000 000 000 000 000";
+const std::wstring longLineB = shortLineB + L" 0000";
+const std::wstring plasterLine = L"000          0.000 00000.0 000          0.000 00000.0";
+const std::wstring lineC = L"00000 00000 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00";
+const std::wstring edgeLine = L"00000 00000 00000 00000 00000 00000 00000 00000";
+const std::wstring lineD = Blanks(8) + L" " + Blanks(4) + L" 0000 0000 00 " + Blanks(30);
+const std::wstring lineE = L"000000 000000 000000 000000 000000 000000 000000 000000 000000";
+const std::wstring lineE600 =
+    L"+000000 +000000 +000000 +000000 +000000 +000000 +000000 +000000 +000000";
+const std::wstring lineA600 = Blanks(15) + L" 0 00 00 00 000 00000 000 000 00 00 " + Blanks(40);
+const std::wstring lineF = L"+00000 +00000 +00000 000";
+
+TEST(ElementPartWrite, DefaultBelow501HasTheShortLinesAndNoLayerLines)
+{
+    const std::vector<std::wstring> expected = {
+        L"SLABDATE", L"499", shortLineA, shortLineB, lineC, edgeLine, lineD, lineE, L"END",
+        L"END SLABDATE"};
+    EXPECT_EQ(Written(AtVersion(499)), expected);
+    std::vector<std::wstring> at0 = expected;
+    at0[1] = L"000";
+    EXPECT_EQ(Written(AtVersion(0)), at0);
+    std::vector<std::wstring> at500 = expected;
+    at500[1] = L"500";
+    EXPECT_EQ(Written(AtVersion(500)), at500);
+}
+
+TEST(ElementPartWrite, VersionFiveHasTheLongLinesButNoConcreteLines)
+{
+    const std::vector<std::wstring> expected = {
+        L"SLABDATE", L"005", longLineA, longLineB, lineC, edgeLine, lineD, lineE, L"END",
+        L"END SLABDATE"};
+    EXPECT_EQ(Written(AtVersion(5)), expected);
+}
+
+TEST(ElementPartWrite, Version501)
+{
+    const std::vector<std::wstring> expected = {
+        L"SLABDATE", L"501", longLineA, longLineB, lineC, edgeLine, lineD, lineE, L"END",
+        L"END SLABDATE"};
+    EXPECT_EQ(Written(AtVersion(501)), expected);
+}
+
+TEST(ElementPartWrite, Version502HasPlastersConcreteCountAndEdges)
+{
+    const std::vector<std::wstring> expected = {
+        L"SLABDATE", L"502", longLineA, longLineB, plasterLine, L"00", lineC, edgeLine, lineD,
+        lineE, L"END", L"END SLABDATE"};
+    EXPECT_EQ(Written(AtVersion(502)), expected);
+}
+
+TEST(ElementPartWrite, Versions503To599HaveNeitherPlastersNorEdges)
+{
+    for (std::int16_t version : {std::int16_t{503}, std::int16_t{599}}) {
+        const std::vector<std::wstring> expected = {
+            L"SLABDATE", std::to_wstring(version), longLineA, longLineB, L"00", lineC, lineD, lineE,
+            L"END", L"END SLABDATE"};
+        EXPECT_EQ(Written(AtVersion(version)), expected) << version;
+    }
+}
+
+TEST(ElementPartWrite, From600TheNumberIsTextAndLinesFAndGFollow)
+{
+    for (std::int16_t version : {std::int16_t{600}, std::int16_t{601}}) {
+        const std::vector<std::wstring> expected = {
+            L"SLABDATE", std::to_wstring(version), lineA600, longLineB, L"00", lineC, lineD,
+            lineE600, lineF, Blanks(20), Blanks(20), Blanks(20), Blanks(20), L"END",
+            L"END SLABDATE"};
+        EXPECT_EQ(Written(AtVersion(version)), expected) << version;
+    }
+}
+
+TEST(ElementPartWrite, ShortCodesArePaddedBehindFrom600)
+{
+    ElementPart element = AtVersion(502);
+    element.codeA1 = L"";
+    element.codeA2 = L"A";
+    element.codeA3 = L"12345";
+    element.codeA4 = L"B";
+    EXPECT_EQ(Written(element)[2], L"012 0 0A 00 00 123 000 000 000 00 00 000B");
+    element.version = 600;
+    element.elementNumberText = L"E-7";
+    element.textA40 = L"forty";
+    EXPECT_EQ(Written(element)[2], L"E-7" + Blanks(12) + L" 0 A0 00 00 123 00000 000 000 00 00 "
+                                       + Blanks(35) + L"forty");
+}
+
+TEST(ElementPartWrite, FilledLines)
+{
+    ElementPart element = AtVersion(502);
+    element.elementNumber = 7;
+    element.valueA1 = 1;
+    element.valueA2 = 123;
+    element.valueA3 = 4;
+    element.valueA6 = 6;
+    element.elementMeasure = 2.5;
+    element.codeB3 = L"7";
+    element.textB8 = L"B8";
+    element.realB1 = 0.25;
+    element.layerProductSum = 12.25;
+    element.thickness = 200;
+    element.doubleWallGap = 60;
+    element.secondThickness = 150;
+    element.extentX = 6000;
+    element.extentY = 2400;
+    element.valueC1 = -5;
+    element.valueC5 = 1;
+    element.elementVector = Vector2d(-5, 7);
+    element.valueC9 = 3;
+    element.valueC10 = -4;
+    element.valueC11 = 1;
+    element.valueC12 = 2;
+    element.textD8 = L"D8";
+    element.textD4 = L"D4";
+    element.valueD3 = 9;
+    element.elementText30 = L"Floor slab";
+    element.firstPoint = Point3d(1, -2, 3);
+    const std::vector<std::wstring> lines = Written(element);
+    EXPECT_EQ(lines[2], L"007 0 00 01 123 000 004 000 000 06 00 0000");
+    EXPECT_EQ(lines[3], L"02.500 000 00       B8 0.250 00012.2 0200 060 007 000 000 000 0150");
+    EXPECT_EQ(lines[6], L"06000 02400 -0005 +0000 +0000 +0000 1 00000 0 00000 0000-5 000007 +03 -04 001 002");
+    EXPECT_EQ(lines[8], L"      D8   D4 0000 0000 09 " + Blanks(20) + L"Floor slab");
+    EXPECT_EQ(lines[9], L"000001 0000-2 000003 000000 000000 000000 000000 000000 000000");
+}
+
+TEST(ElementPartWrite, TheOptionalPairNeedsBothValuesAndAVersionBelow600)
+{
+    ElementPart element = AtVersion(502);
+    element.valueC12 = 5;
+    EXPECT_EQ(Written(element)[6], lineC);
+    element.valueC11 = 4;
+    EXPECT_EQ(Written(element)[6], lineC + L" 004 005");
+    element.valueC12 = -1;
+    EXPECT_EQ(Written(element)[6], lineC);
+    element.valueC12 = 5;
+    element.version = 600;
+    EXPECT_EQ(Written(element)[5], lineC);
+}
+
+TEST(ElementPartWrite, LinesEFAndGFrom600)
+{
+    ElementPart element = AtVersion(600);
+    element.firstPoint = Point3d(1, -2, 1234567);
+    element.fourthPoint = Point3d(-1, 2, 3);
+    element.valueF1 = 42;
+    element.slabInfo1 = L"info";
+    element.slabInfo4 = L"0123456789012345678901234";
+    const std::vector<std::wstring> lines = Written(element);
+    EXPECT_EQ(lines[7], L"+000001 -000002 +1234567 +000000 +000000 +000000 +000000 +000000 +000000");
+    EXPECT_EQ(lines[8], L"-00001 +00002 +00003 042");
+    EXPECT_EQ(lines[9], Blanks(16) + L"info");
+    EXPECT_EQ(lines[12], L"01234567890123456789");
+}
+
+TEST(ElementPartWrite, ConcreteLayersFollowTheirCount)
+{
+    ElementPart element = AtVersion(600);
+    ConcreteLayer layer(600);
+    layer.layerNumber = 1;
+    layer.layerKind = 2;
+    layer.layerThickness = 200;
+    layer.layerName = L"C30";
+    element.concreteLayers.push_back(layer);
+    const std::vector<std::wstring> lines = Written(element);
+    EXPECT_EQ(lines[4], L"01");
+    EXPECT_EQ(lines[5], L"01 02 200 C30" + Blanks(17) + L" 0.000 00000.0 " + Blanks(20));
+
+    ElementPart many = AtVersion(503);
+    for (int i = 0; i < 100; ++i) {
+        many.concreteLayers.push_back(ConcreteLayer(503));
+    }
+    EXPECT_EQ(Written(many)[4], L"100");
+}
+
+TEST(ElementPartCopy, CopiesWorkOnTheirOwnLayers)
+{
+    ElementPart element;
+    element.Add(ConcreteLayer());
+    ElementPart copy(element);
+    copy.Add(ConcreteLayer());
+    EXPECT_EQ(element.concreteLayers.size(), 1u);
+    EXPECT_EQ(copy.concreteLayers.size(), 2u);
+    ElementPart assigned;
+    assigned = copy;
+    assigned.Add(ConcreteLayer());
+    EXPECT_EQ(copy.concreteLayers.size(), 2u);
+    EXPECT_EQ(assigned.concreteLayers.size(), 3u);
+    assigned = assigned;
+    EXPECT_EQ(assigned.concreteLayers.size(), 3u);
+    EXPECT_EQ(assigned.codeA2, L"00");
+}
+
+TEST(ElementPartDefaults, AsTheRecordNeedsThem)
+{
+    const ElementPart element;
+    EXPECT_EQ(element.version, 502);
+    EXPECT_EQ(element.elementNumber, 12);
+    EXPECT_EQ(element.codeA1, L"0");
+    EXPECT_EQ(element.codeA4, L"0000");
+    EXPECT_EQ(element.textB8, Blanks(8));
+    EXPECT_EQ(element.codeB3, L"");
+    EXPECT_EQ(element.valueC11, -1);
+    EXPECT_EQ(element.valueC12, -1);
+    EXPECT_EQ(element.extentX, 0);
+}
+
+ElementPart Filled(std::int16_t version)
+{
+    ElementPart element = AtVersion(version);
+    element.elementNumber = 34;
+    element.elementNumberText = L"34";
+    element.codeA1 = L"1";
+    element.codeA2 = L"22";
+    element.valueA2 = 5;
+    element.codeA3 = L"333";
+    element.valueA5 = 7;
+    element.valueA7 = 8;
+    element.codeA4 = L"4444";
+    element.textA40 = L"forty characters are here";
+    element.elementMeasure = 1.25;
+    element.codeB1 = L"111";
+    element.codeB2 = L"22";
+    element.textB8 = L"textB8xx";
+    element.realB1 = 0.5;
+    element.layerProductSum = 3.5;
+    element.thickness = 200;
+    element.doubleWallGap = 30;
+    element.codeB3 = L"333";
+    element.codeB4 = L"444";
+    element.valueB2 = 9;
+    element.secondThickness = 180;
+    ConcreteLayer layer(version);
+    layer.layerNumber = 1;
+    layer.layerKind = 3;
+    layer.layerThickness = 120;
+    layer.layerName = L"C25";
+    element.concreteLayers.push_back(layer);
+    element.extentX = 6000;
+    element.extentY = 2400;
+    element.valueC2 = -3;
+    element.valueC6 = 11;
+    element.elementVector = Vector2d(10, 20);
+    element.valueC9 = 1;
+    element.valueC10 = -2;
+    element.valueC11 = 3;
+    element.valueC12 = 4;
+    element.textD8 = L"abcdefgh";
+    element.textD4 = L"wxyz";
+    element.valueD1 = 12;
+    element.valueD3 = 5;
+    element.elementText30 = L"Floor slab";
+    element.firstPoint = Point3d(1, 2, 3);
+    element.secondPoint = Point3d(6000, 0, 0);
+    element.thirdPoint = Point3d(0, 2400, 0);
+    element.fourthPoint = Point3d(7, 8, 9);
+    element.valueF1 = 77;
+    element.slabInfo1 = L"first";
+    element.slabInfo2 = L"second";
+    return element;
+}
+
+ElementPart ReadBack(const ElementPart& written)
+{
+    ElementPart copy = written;
+    StringArchive out;
+    copy.Write(out.archive);
+    StringArchive in(out.Text());
+    ElementPart read;
+    EXPECT_TRUE(read.Read(in.archive));
+    EXPECT_TRUE(Healthy(in.archive));
+    return read;
+}
+
+void ExpectCommonMembers(const ElementPart& a, const ElementPart& b)
+{
+    EXPECT_EQ(a.version, b.version);
+    EXPECT_EQ(a.elementNumber, b.elementNumber);
+    EXPECT_EQ(a.codeA1, b.codeA1);
+    EXPECT_EQ(a.codeA2, b.codeA2);
+    EXPECT_EQ(a.valueA2, b.valueA2);
+    EXPECT_EQ(a.codeA3, b.codeA3);
+    EXPECT_EQ(a.valueA5, b.valueA5);
+    EXPECT_EQ(a.valueA7, b.valueA7);
+    EXPECT_EQ(a.elementMeasure, b.elementMeasure);
+    EXPECT_EQ(a.codeB1, b.codeB1);
+    EXPECT_EQ(a.codeB2, b.codeB2);
+    EXPECT_EQ(a.textB8, b.textB8);
+    EXPECT_EQ(a.realB1, b.realB1);
+    EXPECT_EQ(a.layerProductSum, b.layerProductSum);
+    EXPECT_EQ(a.thickness, b.thickness);
+    EXPECT_EQ(a.doubleWallGap, b.doubleWallGap);
+    EXPECT_EQ(a.codeB3, b.codeB3);
+    EXPECT_EQ(a.codeB4, b.codeB4);
+    EXPECT_EQ(a.valueB2, b.valueB2);
+    EXPECT_EQ(a.secondThickness, b.secondThickness);
+    ASSERT_EQ(a.concreteLayers.size(), b.concreteLayers.size());
+    EXPECT_EQ(a.concreteLayers[0].layerThickness, b.concreteLayers[0].layerThickness);
+    EXPECT_EQ(a.extentX, b.extentX);
+    EXPECT_EQ(a.extentY, b.extentY);
+    EXPECT_EQ(a.valueC2, b.valueC2);
+    EXPECT_EQ(a.valueC6, b.valueC6);
+    EXPECT_EQ(a.elementVector, b.elementVector);
+    EXPECT_EQ(a.valueC9, b.valueC9);
+    EXPECT_EQ(a.valueC10, b.valueC10);
+    EXPECT_EQ(a.textD8, b.textD8);
+    EXPECT_EQ(a.textD4, b.textD4);
+    EXPECT_EQ(a.valueD1, b.valueD1);
+    EXPECT_EQ(a.valueD3, b.valueD3);
+    EXPECT_EQ(a.firstPoint, b.firstPoint);
+    EXPECT_EQ(a.secondPoint, b.secondPoint);
+    EXPECT_EQ(a.thirdPoint, b.thirdPoint);
+}
+
+TEST(ElementPartRead, ReadsBackAt502)
+{
+    const ElementPart written = Filled(502);
+    const ElementPart read = ReadBack(written);
+    ExpectCommonMembers(written, read);
+    EXPECT_EQ(read.codeA4, L"4444");
+    EXPECT_EQ(read.valueC11, 3);
+    EXPECT_EQ(read.valueC12, 4);
+    EXPECT_EQ(read.firstEdge, written.firstEdge);
+    // The element text comes back with the blanks of its right-aligned field.
+    EXPECT_EQ(read.elementText30, Blanks(20) + L"Floor slab");
+}
+
+TEST(ElementPartRead, ReadsBackAt600)
+{
+    const ElementPart written = Filled(600);
+    const ElementPart read = ReadBack(written);
+    ExpectCommonMembers(written, read);
+    EXPECT_EQ(read.elementNumberText, L"34");
+    EXPECT_EQ(read.textA40, Blanks(15) + L"forty characters are here");
+    // Never written from 600: the pair stays absent.
+    EXPECT_EQ(read.valueC11, -1);
+    EXPECT_EQ(read.valueC12, -1);
+    EXPECT_EQ(read.fourthPoint, written.fourthPoint);
+    EXPECT_EQ(read.valueF1, 77);
+    EXPECT_EQ(read.slabInfo1, Blanks(15) + L"first");
+    EXPECT_EQ(read.slabInfo2, Blanks(14) + L"second");
+}
+
+TEST(ElementPartRead, TheNumberComesFromTheTextFrom600)
+{
+    for (const auto& [text, number] : std::vector<std::pair<std::wstring, int>>{
+             {L"12A", 12}, {L"X9", 0}, {L"70000", 4464}, {L"-5", -5}}) {
+        ElementPart element = Filled(600);
+        element.elementNumberText = text;
+        const ElementPart read = ReadBack(element);
+        EXPECT_EQ(read.elementNumber, number) << std::string(text.begin(), text.end());
+    }
+}
+
+TEST(ElementPartRead, AWrongStartTagClearsValid)
+{
+    StringArchive in(L"SLABDATX\n502\n");
+    ElementPart element;
+    EXPECT_FALSE(element.Read(in.archive));
+    EXPECT_FALSE(in.archive.valid);
+}
+
+TEST(ElementPartRead, AWrongEndLeavesValidSoTheOrderKeepsTheElement)
+{
+    ElementPart written = Filled(502);
+    StringArchive out;
+    written.Write(out.archive);
+    std::wstring text = out.Text();
+    text.replace(text.find(L"\nEND\n"), 5, L"\nEMD\n");
+    StringArchive in(text);
+    ElementPart read;
+    EXPECT_FALSE(read.Read(in.archive));
+    EXPECT_TRUE(in.archive.valid);
+}
+
+TEST(OrderWithElement, ReadsBackWholeAt502And600)
+{
+    for (std::int16_t version : {std::int16_t{502}, std::int16_t{600}}) {
+        Order order;
+        order.version = version;
+        order.date.version = version;
+        order.orderNumber = L"ORD-77";
+        order.Add(Filled(version));
+        StringArchive out;
+        ASSERT_TRUE(order.Write(out.archive));
+        StringArchive in(out.Text());
+        Order read;
+        EXPECT_TRUE(read.Read(in.archive)) << version;
+        ASSERT_EQ(read.elementParts.size(), 1u);
+        ExpectCommonMembers(order.elementParts[0], read.elementParts[0]);
+        EXPECT_EQ(read.orderNumber, L"ORD-77");
+        // Written again, the read order gives the same text but where a field
+        // does not survive.
+        StringArchive again;
+        read.Write(again.archive);
+        if (version == 502) {
+            EXPECT_EQ(again.Text(), out.Text());
+        }
+    }
+}
+
+TEST(OrderWithElement, CountLineAndPlaceOfTheElement)
+{
+    Order order;
+    order.Add(ElementPart());
+    StringArchive out;
+    order.Write(out.archive);
+    const std::wstring text = out.Text();
+    EXPECT_NE(text.find(L"\n0 01 000\nEND\nSLABDATE\n502\n"), std::wstring::npos);
+    EXPECT_EQ(text.substr(text.size() - 30), L"END\nEND SLABDATE\nEND HEADER__\n");
+}
+
+TEST(OrderWithElement, AFailingElementIsNotKept)
+{
+    Order order;
+    order.Add(ElementPart());
+    StringArchive out;
+    order.Write(out.archive);
+    std::wstring text = out.Text();
+    text.replace(text.find(L"SLABDATE\n"), 9, L"SLABDATX\n");
+    StringArchive in(text);
+    Order read;
+    EXPECT_FALSE(read.Read(in.archive));
+    EXPECT_TRUE(read.elementParts.empty());
+}
+
+} // namespace
+} // namespace ItUnitechnik
