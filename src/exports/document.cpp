@@ -17,6 +17,14 @@ void Document::Clear()
     orders.clear();
 }
 
+ElementPart* Document::CurrentElement()
+{
+    if (orders.empty() || orders.back().elementParts.empty()) {
+        return nullptr;
+    }
+    return &orders.back().elementParts.back();
+}
+
 bool Document::Save(const std::wstring& path)
 {
     bool result = false;

@@ -25,6 +25,10 @@ public:
     // cannot be created or a failed write is not reported.
     bool Save(const std::wstring& path);
 
+    // The element every export after startOrder works on: the last element
+    // of the last order; none when there is no order or it has no element.
+    ElementPart* CurrentElement();
+
     std::vector<Order> orders;
 
 private:
