@@ -1,0 +1,37 @@
+#pragma once
+
+#include "framework/serializable.h"
+#include "geometry/curve.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace ItUnitechnik {
+
+// One element of an outline: a kind character and the curve it names, on one
+// line of the file. The element owns its curve alone and copies it deeply, so
+// it can live by value in a vector.
+//
+//   'B' Arc   'K' Circle   'P' Polygon   'S' LineSegment
+class GeoData : public Serializable {
+public:
+    GeoData() = default;
+    explicit GeoData(std::int32_t formatVersion);
+    // Takes the curve over; nothing checks that kind and curve agree.
+    GeoData(std::int32_t formatVersion, wchar_t kind, std::unique_ptr<Curve> ownedCurve);
+    GeoData(const GeoData& other);
+    GeoData& operator=(const GeoData& other);
+    virtual ~GeoData();
+
+    // Makes the curve that the kind character names; an unknown kind ends
+    // Read with false and no curve, the stream untouched.
+    bool Read(Archive& ar) override;
+    // Fails, and clears the Archive's valid flag, when there is no curve.
+    bool Write(Archive& ar) override;
+
+    std::int32_t version = 0;   // not written; handed on to the curve that Read makes
+    wchar_t elementKind = 0;    // first field
+    Curve* curve = nullptr;     // owned; the rest of the line
+};
+
+} // namespace ItUnitechnik

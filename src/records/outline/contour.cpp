@@ -1,0 +1,117 @@
+#include "records/outline/contour.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "framework/read_idioms.h"
+
+namespace ItUnitechnik {
+
+Contour::Contour(std::int32_t formatVersion) : ItCollectionImpl(&geoData), version(formatVersion) {}
+
+Contour::Contour(const Contour& other)
+    : Serializable(other),
+      ItCollectionImpl(&geoData),
+      version(other.version),
+      contourNumber(other.contourNumber),
+      contourCode(other.contourCode),
+      geoData(other.geoData)
+{
+}
+
+bool Contour::Write(Archive& ar)
+{
+    ar << UInt(2, contourNumber) << Blank;
+    ar << ZText(2, contourCode) << Blank;
+    ar << UInt(2, static_cast<std::uint32_t>(geoData.size()));
+    // Each element stands on a line of its own; an empty contour still ends
+    // its own line, and the record ends the last one.
+    for (GeoData& element : geoData) {
+        ar << EndLine;
+        element.Write(ar);
+    }
+    if (geoData.empty()) {
+        ar << EndLine;
+    }
+    return Healthy(ar);
+}
+
+bool Contour::Read(Archive& ar)
+{
+    ar >> contourNumber;
+    const std::wstring code = ReadToken(ar);
+    if (!ar.fail()) {
+        contourCode = code;
+    }
+    std::int32_t count = 0;
+    ar >> count;
+    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
+        GeoData element(version);
+        // Only the stream decides: an element of unknown kind is kept.
+        element.Read(ar);
+        if (!ar.fail() && ar.valid) {
+            geoData.push_back(element);
+        }
+    }
+    return Healthy(ar);
+}
+
+ContourData::ContourData() : ItCollectionImpl(&contours) {}
+
+ContourData::ContourData(const ContourData& other)
+    : Serializable(other), ItCollectionImpl(&contours), version(other.version), contours(other.contours)
+{
+}
+
+bool ContourData::Write(Archive& ar)
+{
+    ar << Tag("CONTOUR_");
+    ar << UInt(3, version) << EndLine;
+    ar << UInt(2, static_cast<std::uint32_t>(contours.size())) << EndLine;
+    for (Contour& contour : contours) {
+        contour.Write(ar);
+        ar << EndLine;
+    }
+    ar << Tag("END");
+    return Healthy(ar);
+}
+
+bool ContourData::Read(Archive& ar)
+{
+    if (!Matches(ReadToken(ar), L"CONTOUR_")) {
+        ar.valid = false;
+        return false;
+    }
+    ar >> version;
+    std::int32_t count = 0;
+    ar >> count;
+    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
+        Contour contour(version);
+        contour.Read(ar);
+        if (!ar.fail() && ar.valid) {
+            contours.push_back(contour);
+        }
+    }
+    // Unlike its sister records, a wrong end tag here does not spoil the
+    // rest of the Archive.
+    if (!Matches(ReadToken(ar), L"END")) {
+        return false;
+    }
+    return Healthy(ar);
+}
+
+BoundingBox ContourData::boundingBox() const
+{
+    BoundingBox box;
+    for (const Contour& contour : contours) {
+        BoundingBox contourBox;
+        for (const GeoData& element : contour.geoData) {
+            if (element.curve != nullptr) {
+                contourBox.widen(element.curve->boundingBox());
+            }
+        }
+        box.widen(contourBox);
+    }
+    return box;
+}
+
+} // namespace ItUnitechnik

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "framework/collection.h"
+#include "framework/serializable.h"
+#include "geometry/bounding_box.h"
+#include "geometry/geo_data.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace ItUnitechnik {
+
+// One outline of the "CONTOUR_" record: a numbered list of elements.
+class Contour : public Serializable, public ItCollectionImpl<std::vector<GeoData>> {
+public:
+    explicit Contour(std::int32_t formatVersion);
+    Contour(const Contour& other);
+    Contour& operator=(const Contour&) = default;
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::int32_t version;            // not written; handed on to the elements that Read makes
+    std::int32_t contourNumber = 0;  // first field, running number from 1
+    std::wstring contourCode = L"00"; // second field, cut to two characters
+    std::vector<GeoData> geoData;    // behind the count, one line each
+};
+
+// The record "CONTOUR_": the outlines of an element or a lot.
+class ContourData : public Serializable, public ItCollectionImpl<std::vector<Contour>> {
+public:
+    ContourData();
+    ContourData(const ContourData& other);
+    ContourData& operator=(const ContourData&) = default;
+
+    // Reads the record's own version from its second line and appends the
+    // contours; a wrong "END" fails the Read but leaves `valid` alone.
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    // The box of all curves of all contours; the inverted box when there is
+    // none.
+    BoundingBox boundingBox() const;
+
+    std::int16_t version = 502;     // second line
+    std::vector<Contour> contours;  // behind the count
+};
+
+} // namespace ItUnitechnik

@@ -1,0 +1,102 @@
+#include "records/outline/cutout.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "framework/read_idioms.h"
+
+namespace ItUnitechnik {
+
+Cutout::Cutout(std::int32_t formatVersion) : ItCollectionImpl(&geoData), version(formatVersion) {}
+
+Cutout::Cutout(const Cutout& other)
+    : Serializable(other),
+      ItCollectionImpl(&geoData),
+      version(other.version),
+      cutoutNumber(other.cutoutNumber),
+      cutoutValue(other.cutoutValue),
+      cutoutName(other.cutoutName),
+      geoData(other.geoData)
+{
+}
+
+bool Cutout::Write(Archive& ar)
+{
+    ar << UInt(2, cutoutNumber) << Blank;
+    ar << Real(2, 3, cutoutValue) << Blank;
+    if (version >= 600) {
+        ar << Text(40, cutoutName) << Blank;
+    }
+    ar << UInt(2, static_cast<std::uint32_t>(geoData.size()));
+    for (GeoData& element : geoData) {
+        ar << EndLine;
+        element.Write(ar);
+    }
+    if (geoData.empty()) {
+        ar << EndLine;
+    }
+    return Healthy(ar);
+}
+
+bool Cutout::Read(Archive& ar)
+{
+    ar >> cutoutNumber >> cutoutValue;
+    if (version >= 600) {
+        SkipChar(ar);
+        GetText(ar, 40, cutoutName); // with the blanks of its field
+    }
+    std::int32_t count = 0;
+    ar >> count;
+    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
+        GeoData element(version);
+        element.Read(ar);
+        if (!ar.fail() && ar.valid) {
+            geoData.push_back(element);
+        }
+    }
+    return Healthy(ar);
+}
+
+CutoutData::CutoutData() : ItCollectionImpl(&cutouts) {}
+
+CutoutData::CutoutData(const CutoutData& other)
+    : Serializable(other), ItCollectionImpl(&cutouts), version(other.version), cutouts(other.cutouts)
+{
+}
+
+bool CutoutData::Write(Archive& ar)
+{
+    ar << Tag("CUTOUT__");
+    ar << UInt(3, version) << EndLine;
+    ar << UInt(2, static_cast<std::uint32_t>(cutouts.size())) << EndLine;
+    for (Cutout& cutout : cutouts) {
+        cutout.Write(ar);
+        ar << EndLine;
+    }
+    ar << Tag("END");
+    return Healthy(ar);
+}
+
+bool CutoutData::Read(Archive& ar)
+{
+    if (!Matches(ReadToken(ar), L"CUTOUT__")) {
+        ar.valid = false;
+        return false;
+    }
+    ar >> version;
+    std::int32_t count = 0;
+    ar >> count;
+    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
+        Cutout cutout(version);
+        cutout.Read(ar);
+        if (!ar.fail() && ar.valid) {
+            cutouts.push_back(cutout);
+        }
+    }
+    if (!Matches(ReadToken(ar), L"END")) {
+        ar.valid = false;
+        return false;
+    }
+    return Healthy(ar);
+}
+
+} // namespace ItUnitechnik

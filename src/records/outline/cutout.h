@@ -1,0 +1,46 @@
+#pragma once
+
+#include "framework/collection.h"
+#include "framework/serializable.h"
+#include "geometry/geo_data.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace ItUnitechnik {
+
+// One opening of the "CUTOUT__" record: a numbered list of elements with a
+// value and, from version 600 on, a name.
+class Cutout : public Serializable, public ItCollectionImpl<std::vector<GeoData>> {
+public:
+    explicit Cutout(std::int32_t formatVersion);
+    Cutout(const Cutout& other);
+    Cutout& operator=(const Cutout&) = default;
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::int32_t version;           // not written; decides the name's field and goes to the elements
+    std::int32_t cutoutNumber = 0;  // first field, running number from 1
+    double cutoutValue = 0.0;       // second field; only stored
+    std::wstring cutoutName;        // third field, 40 places, from version 600 on
+    std::vector<GeoData> geoData;   // behind the count, one line each
+};
+
+// The record "CUTOUT__": the openings of an element or a lot.
+class CutoutData : public Serializable, public ItCollectionImpl<std::vector<Cutout>> {
+public:
+    CutoutData();
+    CutoutData(const CutoutData& other);
+    CutoutData& operator=(const CutoutData&) = default;
+
+    // A wrong tag at either end clears the Archive's `valid`.
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::int16_t version = 502;  // second line
+    std::vector<Cutout> cutouts; // behind the count
+};
+
+} // namespace ItUnitechnik

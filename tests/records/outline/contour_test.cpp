@@ -1,0 +1,378 @@
+#include "records/outline/contour.h"
+
+#include "framework/read_idioms.h"
+#include "geometry/arc.h"
+#include "geometry/circle.h"
+#include "geometry/line_segment.h"
+#include "geometry/polygon.h"
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+
+namespace ItUnitechnik {
+namespace {
+
+using Testing::StringArchive;
+
+GeoData Segment(std::int32_t version, Point2d start, Point2d end)
+{
+    return GeoData(version, L'S', std::make_unique<LineSegment>(version, start, end));
+}
+
+GeoData CircleElement(std::int32_t version, Point2d centre, std::int32_t radius)
+{
+    return GeoData(version, L'K', std::make_unique<Circle>(version, centre, radius));
+}
+
+std::wstring Written(Serializable& record)
+{
+    StringArchive s;
+    EXPECT_TRUE(record.Write(s.archive));
+    return s.Text();
+}
+
+TEST(Contour, Defaults)
+{
+    Contour contour(600);
+    EXPECT_EQ(contour.version, 600);
+    EXPECT_EQ(contour.contourNumber, 0);
+    EXPECT_EQ(contour.contourCode, L"00");
+    EXPECT_TRUE(contour.geoData.empty());
+
+    ContourData data;
+    EXPECT_EQ(data.version, 502);
+    EXPECT_TRUE(data.contours.empty());
+}
+
+TEST(ContourData, EmptyRecord)
+{
+    ContourData data;
+    EXPECT_EQ(Written(data), L"CONTOUR_\n502\n00\nEND\n");
+}
+
+TEST(ContourData, ContourWithoutElementsLeavesAnEmptyLine)
+{
+    ContourData data;
+    Contour contour(502);
+    contour.contourNumber = 1;
+    data.contours.push_back(contour);
+    EXPECT_EQ(Written(data), L"CONTOUR_\n502\n01\n01 00 00\n\nEND\n");
+}
+
+TEST(Contour, ElementsStandOnLinesOfTheirOwnBelowVersion600)
+{
+    ContourData data;
+    Contour contour(502);
+    contour.contourNumber = 1;
+    contour.geoData.push_back(Segment(502, Point2d(-10, 5), Point2d(20, 30)));
+    contour.geoData.push_back(CircleElement(502, Point2d(100, 100), 50));
+    data.contours.push_back(contour);
+    EXPECT_EQ(Written(data), L"CONTOUR_\n"
+                             L"502\n"
+                             L"01\n"
+                             L"01 00 02\n"
+                             L"S 00000 00005 00020 00030 0000\n"
+                             L"K 00100 00100 00050 0000\n"
+                             L"END\n");
+}
+
+TEST(Contour, ElementsFromVersion600)
+{
+    ContourData data;
+    data.version = 600;
+    Contour contour(600);
+    contour.contourNumber = 2;
+    contour.contourCode = L"AB";
+    contour.geoData.push_back(Segment(600, Point2d(-10, 5), Point2d(20, 30)));
+    data.contours.push_back(contour);
+    EXPECT_EQ(Written(data), L"CONTOUR_\n600\n01\n02 AB 01\nS -00010 +00005 +00020 +00030 0000\nEND\n");
+}
+
+TEST(Contour, CodeIsCutToTwoAndZeroFilled)
+{
+    Contour contour(502);
+    contour.contourNumber = 3;
+    contour.contourCode = L"ABC";
+    EXPECT_EQ(Written(contour), L"03 AB 00\n");
+    contour.contourCode = L"5";
+    EXPECT_EQ(Written(contour), L"03 05 00\n");
+}
+
+TEST(ContourData, HundredContoursOutgrowTheirTwoDigits)
+{
+    ContourData data;
+    for (std::int32_t i = 1; i <= 100; ++i) {
+        Contour contour(502);
+        contour.contourNumber = i;
+        data.contours.push_back(contour);
+    }
+    const std::wstring text = Written(data);
+    EXPECT_EQ(text.substr(0, 17), L"CONTOUR_\n502\n100\n");
+    EXPECT_EQ(text.substr(17, 10), L"01 00 00\n\n");
+    EXPECT_EQ(text.substr(text.size() - 15), L"100 00 00\n\nEND\n");
+}
+
+TEST(ContourData, WriteWithAnElementWithoutCurveFails)
+{
+    ContourData data;
+    Contour contour(502);
+    GeoData empty(502);
+    empty.elementKind = L'S';
+    contour.geoData.push_back(empty);
+    data.contours.push_back(contour);
+    StringArchive s;
+    EXPECT_FALSE(data.Write(s.archive));
+    EXPECT_FALSE(s.archive.valid);
+}
+
+TEST(ContourData, BoxOfACircleContour)
+{
+    ContourData data;
+    Contour contour(502);
+    contour.geoData.push_back(CircleElement(502, Point2d(100, 100), 50));
+    data.contours.push_back(contour);
+    EXPECT_EQ(data.boundingBox(), BoundingBox(Point2d(50, 50), Point2d(150, 150)));
+}
+
+TEST(ContourData, BoxWithoutContoursIsInvertedAndItsWidthWrapsToOne)
+{
+    ContourData data;
+    BoundingBox box = data.boundingBox();
+    EXPECT_EQ(box.min, Point2d(2147483647, 2147483647));
+    EXPECT_EQ(box.max, Point2d(std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::min()));
+    EXPECT_EQ(WrappingSubtract(box.max.x, box.min.x), 1);
+
+    data.contours.push_back(Contour(502));
+    EXPECT_EQ(data.boundingBox(), box);
+}
+
+TEST(ContourData, ElementWithoutCurveAddsNothingToTheBox)
+{
+    ContourData data;
+    Contour contour(502);
+    contour.geoData.push_back(GeoData(502));
+    contour.geoData.push_back(Segment(502, Point2d(1, 2), Point2d(3, 4)));
+    data.contours.push_back(contour);
+    EXPECT_EQ(data.boundingBox(), BoundingBox(Point2d(1, 2), Point2d(3, 4)));
+}
+
+TEST(ContourData, BoxTakesInAllContours)
+{
+    ContourData data;
+    Contour first(502);
+    first.geoData.push_back(Segment(502, Point2d(0, 0), Point2d(3000, 0)));
+    first.geoData.push_back(Segment(502, Point2d(3000, 0), Point2d(3000, 1500)));
+    Contour second(502);
+    second.geoData.push_back(Segment(502, Point2d(5000, 0), Point2d(6000, 1000)));
+    Contour third(502);
+    third.geoData.push_back(Segment(502, Point2d(-100, -50), Point2d(100, 50)));
+    data.contours = {first, second, third};
+    EXPECT_EQ(data.boundingBox(), BoundingBox(Point2d(-100, -50), Point2d(6000, 1500)));
+}
+
+TEST(Contour, CopyAndAssignmentKeepTheirOwnElements)
+{
+    Contour original(600);
+    original.contourNumber = 4;
+    original.contourCode = L"XY";
+    original.geoData.push_back(Segment(600, Point2d(1, 1), Point2d(2, 2)));
+
+    Contour copy(original);
+    EXPECT_EQ(copy.version, 600);
+    EXPECT_EQ(copy.contourNumber, 4);
+    EXPECT_EQ(copy.contourCode, L"XY");
+    ASSERT_EQ(copy.geoData.size(), 1u);
+    EXPECT_NE(copy.geoData[0].curve, original.geoData[0].curve);
+    copy.Add(Segment(600, Point2d(2, 2), Point2d(3, 3)));
+    EXPECT_EQ(copy.geoData.size(), 2u);
+    EXPECT_EQ(original.geoData.size(), 1u);
+
+    Contour assigned(502);
+    assigned = original;
+    EXPECT_EQ(assigned.version, 600);
+    EXPECT_EQ(assigned.contourNumber, 4);
+    assigned.Clear();
+    EXPECT_TRUE(assigned.geoData.empty());
+    EXPECT_EQ(original.geoData.size(), 1u);
+}
+
+TEST(ContourData, CopyWorksOnItsOwnContours)
+{
+    ContourData original;
+    original.version = 600;
+    original.Add(Contour(600));
+    ContourData copy(original);
+    copy.Add(Contour(600));
+    EXPECT_EQ(copy.version, 600);
+    EXPECT_EQ(copy.contours.size(), 2u);
+    EXPECT_EQ(original.contours.size(), 1u);
+    ContourData assigned;
+    assigned = original;
+    assigned.Clear();
+    EXPECT_EQ(original.contours.size(), 1u);
+}
+
+TEST(ContourData, ReadsTheRecordWithItsVersionHandedDown)
+{
+    StringArchive s(L"CONTOUR_\n"
+                    L"600\n"
+                    L"02\n"
+                    L"01 00 03\n"
+                    L"S -00010 +00005 +00020 +00030 0000\n"
+                    L"K +00100 +00100 00050 0000\n"
+                    L"P 2 +00001 +00002 +00003 +00004 0001\n"
+                    L"02 AB 00\n"
+                    L"\n"
+                    L"END\n"
+                    L"NEXT");
+    ContourData data;
+    EXPECT_TRUE(data.Read(s.archive));
+    EXPECT_EQ(data.version, 600);
+    ASSERT_EQ(data.contours.size(), 2u);
+    const Contour& first = data.contours[0];
+    EXPECT_EQ(first.version, 600);
+    EXPECT_EQ(first.contourNumber, 1);
+    EXPECT_EQ(first.contourCode, L"00");
+    ASSERT_EQ(first.geoData.size(), 3u);
+    EXPECT_EQ(first.geoData[0].version, 600);
+    ASSERT_NE(first.geoData[0].curve, nullptr);
+    EXPECT_EQ(first.geoData[0].curve->version, 600);
+    auto* line = dynamic_cast<LineSegment*>(first.geoData[0].curve);
+    ASSERT_NE(line, nullptr);
+    EXPECT_EQ(line->start, Point2d(-10, 5));
+    auto* circle = dynamic_cast<Circle*>(first.geoData[1].curve);
+    ASSERT_NE(circle, nullptr);
+    EXPECT_EQ(circle->radius, 50);
+    auto* polygon = dynamic_cast<Polygon*>(first.geoData[2].curve);
+    ASSERT_NE(polygon, nullptr);
+    EXPECT_EQ(polygon->points.size(), 2u);
+    EXPECT_EQ(data.contours[1].contourNumber, 2);
+    EXPECT_EQ(data.contours[1].contourCode, L"AB");
+    EXPECT_TRUE(data.contours[1].geoData.empty());
+    EXPECT_EQ(ReadToken(s.archive), L"NEXT");
+}
+
+TEST(ContourData, LongerCodeIsReadWhole)
+{
+    StringArchive s(L"CONTOUR_\n502\n01\n01 ABC 00\n\nEND\n");
+    ContourData data;
+    EXPECT_TRUE(data.Read(s.archive));
+    ASSERT_EQ(data.contours.size(), 1u);
+    EXPECT_EQ(data.contours[0].contourCode, L"ABC");
+}
+
+TEST(ContourData, ReadAppends)
+{
+    StringArchive s(L"CONTOUR_\n502\n01\n01 00 00\n\nEND\n");
+    ContourData data;
+    data.contours.push_back(Contour(502));
+    EXPECT_TRUE(data.Read(s.archive));
+    EXPECT_EQ(data.contours.size(), 2u);
+}
+
+TEST(ContourData, WrongTagClearsValid)
+{
+    StringArchive s(L"CONTOURS\n502\n00\nEND\n");
+    ContourData data;
+    data.version = 600;
+    EXPECT_FALSE(data.Read(s.archive));
+    EXPECT_FALSE(s.archive.valid);
+    EXPECT_EQ(data.version, 600);
+    EXPECT_FALSE(s.archive.fail());
+}
+
+TEST(ContourData, LongerTagDoesNotMatch)
+{
+    StringArchive s(L"CONTOUR__\n502\n00\nEND\n");
+    ContourData data;
+    EXPECT_FALSE(data.Read(s.archive));
+    EXPECT_FALSE(s.archive.valid);
+}
+
+TEST(ContourData, WrongEndFailsButLeavesValid)
+{
+    StringArchive s(L"CONTOUR_\n502\n00\nENDE\n");
+    ContourData data;
+    EXPECT_FALSE(data.Read(s.archive));
+    EXPECT_TRUE(s.archive.valid);
+    EXPECT_FALSE(s.archive.fail());
+}
+
+TEST(ContourData, FailureInsideAContourFailsTheRead)
+{
+    StringArchive s(L"CONTOUR_\n502\n02\n01 00 01\nS 00001 xx\n02 00 00\n\nEND\n");
+    ContourData data;
+    EXPECT_FALSE(data.Read(s.archive));
+    EXPECT_TRUE(data.contours.empty());
+}
+
+TEST(ContourData, ElementOfUnknownKindIsKeptWithoutCurve)
+{
+    // The unknown kind leaves the rest of its line to the next element.
+    StringArchive s(L"CONTOUR_\n502\n01\n01 00 02\nX S 00001 00002 00003 00004 0000\nEND\n");
+    ContourData data;
+    EXPECT_TRUE(data.Read(s.archive));
+    ASSERT_EQ(data.contours.size(), 1u);
+    const Contour& contour = data.contours[0];
+    ASSERT_EQ(contour.geoData.size(), 2u);
+    EXPECT_EQ(contour.geoData[0].elementKind, L'X');
+    EXPECT_EQ(contour.geoData[0].curve, nullptr);
+    EXPECT_EQ(contour.geoData[1].elementKind, L'S');
+    EXPECT_NE(dynamic_cast<LineSegment*>(contour.geoData[1].curve), nullptr);
+
+    StringArchive out;
+    EXPECT_FALSE(data.Write(out.archive));
+}
+
+TEST(ContourData, ReadsBackWhatItWrote)
+{
+    for (std::int16_t version : {std::int16_t{502}, std::int16_t{600}}) {
+        ContourData written;
+        written.version = version;
+        Contour contour(version);
+        contour.contourNumber = 1;
+        contour.contourCode = L"K1";
+        contour.geoData.push_back(Segment(version, Point2d(0, 0), Point2d(3000, 0)));
+        auto arc = std::make_unique<Arc>(version);
+        arc->centre = Point2d(3000, 750);
+        arc->radius = 750;
+        arc->startAngle = 270;
+        arc->endAngle = 90;
+        contour.geoData.emplace_back(version, L'B', std::move(arc));
+        contour.geoData.push_back(CircleElement(version, Point2d(10, 20), 5));
+        Contour empty(version);
+        empty.contourNumber = 2;
+        written.contours = {contour, empty};
+
+        StringArchive out;
+        ASSERT_TRUE(written.Write(out.archive));
+        StringArchive in(out.Text());
+        ContourData read;
+        EXPECT_TRUE(read.Read(in.archive));
+        EXPECT_EQ(read.version, version);
+        ASSERT_EQ(read.contours.size(), 2u);
+        EXPECT_EQ(read.contours[0].contourNumber, 1);
+        EXPECT_EQ(read.contours[0].contourCode, L"K1");
+        ASSERT_EQ(read.contours[0].geoData.size(), 3u);
+        auto* line = dynamic_cast<LineSegment*>(read.contours[0].geoData[0].curve);
+        ASSERT_NE(line, nullptr);
+        EXPECT_EQ(line->end, Point2d(3000, 0));
+        auto* readArc = dynamic_cast<Arc*>(read.contours[0].geoData[1].curve);
+        ASSERT_NE(readArc, nullptr);
+        EXPECT_EQ(readArc->startAngle, 270);
+        EXPECT_EQ(readArc->endAngle, 90);
+        EXPECT_EQ(read.contours[1].contourNumber, 2);
+        EXPECT_TRUE(read.contours[1].geoData.empty());
+        EXPECT_EQ(read.boundingBox(), written.boundingBox());
+
+        StringArchive again;
+        ASSERT_TRUE(read.Write(again.archive));
+        EXPECT_EQ(again.Text(), out.Text());
+    }
+}
+
+} // namespace
+} // namespace ItUnitechnik
