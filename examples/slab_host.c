@@ -24,8 +24,32 @@ int main(int argc, char** argv)
     const double placement[9] = {0.0, 0.0, 0.0, 6000.0, 0.0, 0.0, 0.0, 2400.0, 0.0};
     const char* file = argc > 1 ? argv[1] : "slab.uni";
 
+    static const char* const projectTexts[IT_PROJECT_TEXT_COUNT] = {
+        "ORD-2026-0142", "A1   ", "LV01", "K-77", /* order number and identifying texts */
+        "Riverside Tower", "Block B", "Level 3", "Slabs",           /* project */
+        "Precast Works Ltd", "Quarry Road 12", "D-12345", "Steinfeld", /* plant */
+        "Main Contractor", "Harbour Street 1", "D-20457", "Hamburg", /* site */
+        "21.11.2026", "01", "Floor slab, fair-faced underside"};
+    it_char16 projectBuffers[IT_PROJECT_TEXT_COUNT][TEXT_MAX];
+    const it_char16* project[IT_PROJECT_TEXT_COUNT];
+    it_char16 info[4][TEXT_MAX];
+    it_char16 layerName[TEXT_MAX];
+    int i;
+
     /* A new document with one order of format version 600. */
     startOrder(1, 101, placement, 600, text16("Floor slab FS-101", elementText), 1.25, true);
+
+    for (i = 0; i < IT_PROJECT_TEXT_COUNT; ++i) {
+        project[i] = text16(projectTexts[i], projectBuffers[i]);
+    }
+    setProjectData(project);
+    setSlabInfoFields(text16("C30/37", info[0]), text16("XC1", info[1]), text16("exposed", info[2]),
+                      text16("batch 7", info[3]));
+
+    /* Two concrete layers: 60 mm and 140 mm, and the gap of a double wall. */
+    addLayer(1, 0.06, 2.4, 0.06, text16("C30/37", layerName));
+    addLayer(2, 0.14, 2.4, 0.14, text16("C25/30", layerName));
+    setDoubleWallGap(0);
 
     if (endDocument(text16(file, path)) != 1) {
         fprintf(stderr, "slab_host: the document could not be written\n");
