@@ -1,0 +1,153 @@
+#include "records/outline/mounting_part.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "framework/read_idioms.h"
+
+namespace ItUnitechnik {
+
+MountingPart::MountingPart(std::int16_t formatVersion) : ItCollectionImpl(&geoData), version(formatVersion) {}
+
+MountingPart::MountingPart(const MountingPart& other)
+    : Serializable(other),
+      ItCollectionImpl(&geoData),
+      version(other.version),
+      partNumber(other.partNumber),
+      geoData(other.geoData),
+      partKind(other.partKind),
+      partSubCode(other.partSubCode),
+      partCode(other.partCode),
+      partName(other.partName),
+      partText1(other.partText1),
+      partText2(other.partText2),
+      partArea(other.partArea),
+      setValue1(other.setValue1),
+      setValue2(other.setValue2),
+      position(other.position),
+      partValue1(other.partValue1),
+      partValue2(other.partValue2),
+      partWidth(other.partWidth),
+      partHeight(other.partHeight)
+{
+}
+
+bool MountingPart::Write(Archive& ar)
+{
+    // Line 1.
+    ar << UInt(version < 502 ? 2 : 3, partNumber) << Blank;
+    ar << Char(partKind);
+    ar << UInt(2, partSubCode) << Blank;
+    ar << Literal("000") << Blank;
+    ar << Text(10, partCode) << Blank;
+    ar << Text(40, partName) << EndLine;
+    // Lines 2 and 3 stand at the right end of their places.
+    if (version >= 600) {
+        ar << RText(20, partText1, Adjust::right) << EndLine;
+        ar << RText(20, partText2, Adjust::right) << EndLine;
+    }
+    // Last line.
+    ar << Real(2, 3, partArea) << Blank;
+    ar << UInt(3, setValue1) << Blank;
+    if (version >= 600) {
+        ar << SInt(5, position.x) << Blank;
+        ar << SInt(5, position.y) << Blank;
+        ar << SInt(5, setValue2);
+    } else {
+        ar << UInt(3, setValue2);
+    }
+    ar << Blank;
+    ar << UInt(4, partValue1) << Blank;
+    ar << UInt(3, partValue2) << Blank;
+    ar << UInt(5, partWidth) << Blank;
+    ar << UInt(5, partHeight) << Blank;
+    ar << UInt(2, static_cast<std::uint32_t>(geoData.size()));
+    for (GeoData& element : geoData) {
+        ar << EndLine;
+        element.Write(ar);
+    }
+    if (geoData.empty()) {
+        ar << EndLine;
+    }
+    return Healthy(ar);
+}
+
+bool MountingPart::Read(Archive& ar)
+{
+    ar >> partNumber;
+    ar >> partKind;
+    ar >> partSubCode;
+    std::wstring filler;
+    SkipChar(ar);
+    GetText(ar, 3, filler);
+    SkipChar(ar);
+    GetText(ar, 10, partCode);
+    SkipChar(ar);
+    partName = ReadLine(ar);
+    if (version >= 600) {
+        partText1 = ReadLine(ar);
+        partText2 = ReadLine(ar);
+    }
+    ar >> partArea >> setValue1;
+    if (version >= 600) {
+        ar >> position.x >> position.y;
+    }
+    ar >> setValue2 >> partValue1 >> partValue2 >> partWidth >> partHeight;
+    std::int32_t count = 0;
+    ar >> count;
+    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
+        GeoData element(version);
+        element.Read(ar);
+        if (!ar.fail() && ar.valid) {
+            geoData.push_back(element);
+        }
+    }
+    // Without elements this takes the rest of the count's line. Behind a line
+    // or polygon element it drops the following line whole.
+    SkipLine(ar);
+    return Healthy(ar);
+}
+
+MountingPartData::MountingPartData() : ItCollectionImpl(&parts) {}
+
+MountingPartData::MountingPartData(const MountingPartData& other)
+    : Serializable(other), ItCollectionImpl(&parts), version(other.version), parts(other.parts)
+{
+}
+
+bool MountingPartData::Write(Archive& ar)
+{
+    ar << Tag("MOUNPART");
+    ar << UInt(3, version) << EndLine;
+    ar << UInt(version < 502 ? 2 : 3, static_cast<std::uint32_t>(parts.size())) << EndLine;
+    for (MountingPart& part : parts) {
+        part.Write(ar);
+        ar << EndLine;
+    }
+    ar << Tag("END");
+    return Healthy(ar);
+}
+
+bool MountingPartData::Read(Archive& ar)
+{
+    if (!Matches(ReadToken(ar), L"MOUNPART")) {
+        ar.valid = false;
+        return false;
+    }
+    ar >> version;
+    std::int32_t count = 0;
+    ar >> count;
+    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
+        MountingPart part(version);
+        part.Read(ar);
+        if (!ar.fail() && ar.valid) {
+            parts.push_back(part);
+        }
+    }
+    if (!Matches(ReadToken(ar), L"END")) {
+        ar.valid = false;
+        return false;
+    }
+    return Healthy(ar);
+}
+
+} // namespace ItUnitechnik

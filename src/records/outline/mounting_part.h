@@ -1,0 +1,62 @@
+#pragma once
+
+#include "framework/collection.h"
+#include "framework/serializable.h"
+#include "geometry/geo_data.h"
+#include "geometry/point.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace ItUnitechnik {
+
+// One part set into an element: codes, texts, a size, a place and an outline.
+// Version 502 widened its number to three digits; version 600 added the two
+// text lines and the position.
+class MountingPart : public Serializable, public ItCollectionImpl<std::vector<GeoData>> {
+public:
+    explicit MountingPart(std::int16_t formatVersion);
+    MountingPart(const MountingPart& other);
+    MountingPart& operator=(const MountingPart&) = default;
+
+    // Behind a line or polygon element, which has already skipped its own
+    // line end, the closing skip of this reader drops the whole next line.
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::int16_t version;                       // not written; decides the widths and lines
+    std::int32_t partNumber = 0;                // line 1, running number from 1
+    std::vector<GeoData> geoData;               // behind the last line, one line each
+    wchar_t partKind = L'0';                    // line 1, the character in front of partSubCode
+    std::int16_t partSubCode = 0;               // line 1, two digits
+    std::wstring partCode = std::wstring(10, L' ');  // line 1, 10 places
+    std::wstring partName = std::wstring(40, L' ');  // line 1, 40 places, rest of the line
+    std::wstring partText1;                     // line 2, from version 600 on
+    std::wstring partText2;                     // line 3, from version 600 on
+    double partArea = 0.0;                      // last line, square metres
+    std::int32_t setValue1 = 0;                 // last line
+    std::int32_t setValue2 = 0;                 // last line, signed from version 600 on
+    Point2d position;                           // last line, from version 600 on
+    std::int32_t partValue1 = 0;                // last line; only stored
+    std::int32_t partValue2 = 0;                // last line; only stored
+    std::uint32_t partWidth = 0;                // last line, extent of the outline in x
+    std::uint32_t partHeight = 0;               // last line, extent of the outline in y
+};
+
+// The record "MOUNPART": the parts set into an element.
+class MountingPartData : public Serializable, public ItCollectionImpl<std::vector<MountingPart>> {
+public:
+    MountingPartData();
+    MountingPartData(const MountingPartData& other);
+    MountingPartData& operator=(const MountingPartData&) = default;
+
+    // A wrong tag at either end clears the Archive's `valid`.
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::int16_t version = 502;      // second line
+    std::vector<MountingPart> parts; // behind the count
+};
+
+} // namespace ItUnitechnik

@@ -1,0 +1,438 @@
+#include "records/outline/mounting_part.h"
+
+#include "framework/read_idioms.h"
+#include "geometry/circle.h"
+#include "geometry/line_segment.h"
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace ItUnitechnik {
+namespace {
+
+using Testing::StringArchive;
+
+std::wstring Spaces(std::size_t count)
+{
+    return std::wstring(count, L' ');
+}
+
+std::wstring Written(Serializable& record)
+{
+    StringArchive s;
+    EXPECT_TRUE(record.Write(s.archive));
+    return s.Text();
+}
+
+// A part with every field set, as an anchor channel of 3000 by 2000.
+MountingPart AnchorChannel(std::int16_t version)
+{
+    MountingPart part(version);
+    part.partNumber = 12;
+    part.partKind = L'B';
+    part.partSubCode = 34;
+    part.partCode = L"HTA-40";
+    part.partName = L"Ankerschiene";
+    part.partArea = 6.0;
+    part.setValue1 = 5;
+    part.setValue2 = 7;
+    part.partValue1 = 1234;
+    part.partValue2 = 56;
+    part.partWidth = 3000;
+    part.partHeight = 2000;
+    part.geoData.emplace_back(version, L'S',
+                              std::make_unique<LineSegment>(version, Point2d(0, 0), Point2d(3000, 2000)));
+    return part;
+}
+
+void ExpectSameFields(const MountingPart& read, const MountingPart& written)
+{
+    EXPECT_EQ(read.partNumber, written.partNumber);
+    EXPECT_EQ(read.partKind, written.partKind);
+    EXPECT_EQ(read.partSubCode, written.partSubCode);
+    EXPECT_EQ(read.partCode, written.partCode);
+    EXPECT_EQ(read.partName, written.partName);
+    EXPECT_EQ(read.partText1, written.partText1);
+    EXPECT_EQ(read.partText2, written.partText2);
+    EXPECT_EQ(read.partArea, written.partArea);
+    EXPECT_EQ(read.setValue1, written.setValue1);
+    EXPECT_EQ(read.setValue2, written.setValue2);
+    EXPECT_EQ(read.position, written.position);
+    EXPECT_EQ(read.partValue1, written.partValue1);
+    EXPECT_EQ(read.partValue2, written.partValue2);
+    EXPECT_EQ(read.partWidth, written.partWidth);
+    EXPECT_EQ(read.partHeight, written.partHeight);
+    EXPECT_EQ(read.geoData.size(), written.geoData.size());
+}
+
+TEST(MountingPart, Defaults)
+{
+    MountingPart part(600);
+    EXPECT_EQ(part.version, 600);
+    EXPECT_EQ(part.partNumber, 0);
+    EXPECT_TRUE(part.geoData.empty());
+    EXPECT_EQ(part.partKind, L'0');
+    EXPECT_EQ(part.partSubCode, 0);
+    EXPECT_EQ(part.partCode, Spaces(10));
+    EXPECT_EQ(part.partName, Spaces(40));
+    EXPECT_TRUE(part.partText1.empty());
+    EXPECT_TRUE(part.partText2.empty());
+    EXPECT_EQ(part.partArea, 0.0);
+    EXPECT_EQ(part.setValue1, 0);
+    EXPECT_EQ(part.setValue2, 0);
+    EXPECT_EQ(part.position, Point2d(0, 0));
+    EXPECT_EQ(part.partValue1, 0);
+    EXPECT_EQ(part.partValue2, 0);
+    EXPECT_EQ(part.partWidth, 0u);
+    EXPECT_EQ(part.partHeight, 0u);
+
+    MountingPartData data;
+    EXPECT_EQ(data.version, 502);
+    EXPECT_TRUE(data.parts.empty());
+}
+
+TEST(MountingPartData, EmptyRecord)
+{
+    MountingPartData data;
+    EXPECT_EQ(Written(data), L"MOUNPART\n502\n000\nEND\n");
+    data.version = 501;
+    EXPECT_EQ(Written(data), L"MOUNPART\n501\n00\nEND\n");
+}
+
+TEST(MountingPartData, DefaultPartAtVersion502)
+{
+    MountingPartData data;
+    data.parts.push_back(MountingPart(502));
+    EXPECT_EQ(Written(data), L"MOUNPART\n502\n001\n"
+                             L"000 000 000 " + Spaces(10) + L" " + Spaces(40) + L"\n"
+                             L"00.000 000 000 0000 000 00000 00000 00\n"
+                             L"\n"
+                             L"END\n");
+}
+
+TEST(MountingPartData, Version500HasTwoDigitNumbers)
+{
+    MountingPartData data;
+    data.version = 500;
+    MountingPart part(500);
+    part.partNumber = 1;
+    data.parts.push_back(part);
+    EXPECT_EQ(Written(data), L"MOUNPART\n500\n01\n"
+                             L"01 000 000 " + Spaces(10) + L" " + Spaces(40) + L"\n"
+                             L"00.000 000 000 0000 000 00000 00000 00\n"
+                             L"\n"
+                             L"END\n");
+}
+
+TEST(MountingPartData, Version600AddsTwoTextLinesAndThePosition)
+{
+    MountingPartData data;
+    data.version = 600;
+    MountingPart part(600);
+    part.partNumber = 1;
+    part.position = Point2d(-120, 300);
+    part.setValue2 = 40;
+    data.parts.push_back(part);
+    EXPECT_EQ(Written(data), L"MOUNPART\n600\n001\n"
+                             L"001 000 000 " + Spaces(10) + L" " + Spaces(40) + L"\n" +
+                                 Spaces(20) + L"\n" + Spaces(20) + L"\n"
+                                 L"00.000 000 -00120 +00300 +00040 0000 000 00000 00000 00\n"
+                                 L"\n"
+                                 L"END\n");
+}
+
+TEST(MountingPart, FieldsAtVersion502)
+{
+    MountingPart part = AnchorChannel(502);
+    EXPECT_EQ(Written(part), L"012 B34 000 HTA-40     Ankerschiene" + Spaces(28) + L"\n"
+                             L"06.000 005 007 1234 056 03000 02000 01\n"
+                             L"S 00000 00000 03000 02000 0000");
+}
+
+TEST(MountingPart, FieldsAtVersion600)
+{
+    MountingPart part = AnchorChannel(600);
+    part.partText1 = L"Oben";
+    part.partText2 = L"ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+    part.position = Point2d(1500, -1000);
+    EXPECT_EQ(Written(part), L"012 B34 000 HTA-40     Ankerschiene" + Spaces(28) + L"\n" + Spaces(16) +
+                                 L"Oben\n"
+                                 L"ABCDEFGHIJKLMNOPQRST\n"
+                                 L"06.000 005 +01500 -01000 +00007 1234 056 03000 02000 01\n"
+                                 L"S +00000 +00000 +03000 +02000 0000");
+}
+
+TEST(MountingPart, KindAndSubCodeStandTogether)
+{
+    MountingPart part(502);
+    part.partKind = L'A';
+    part.partSubCode = 7;
+    EXPECT_EQ(Written(part).substr(0, 12), L"000 A07 000 ");
+}
+
+TEST(MountingPart, LongNameIsCutToForty)
+{
+    MountingPart part(502);
+    part.partName = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    part.partCode = L"0123456789ABC";
+    EXPECT_EQ(Written(part).substr(0, 64), L"000 000 000 0123456789 ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmn\n");
+}
+
+TEST(MountingPart, AreaIsWrittenWithThreeDecimals)
+{
+    MountingPart part(502);
+    part.partArea = 3.0; // 2000 by 1500
+    EXPECT_EQ(Written(part).substr(64, 7), L"03.000 ");
+    part.partArea = -1794.967296; // 50000 by 50000, wrapped in 32 bits
+    EXPECT_EQ(Written(part).substr(64, 10), L"-1794.967 ");
+}
+
+TEST(MountingPart, WideNumbersPushTheLine)
+{
+    MountingPartData data;
+    data.version = 500;
+    MountingPart part(500);
+    part.partNumber = 123;
+    part.partWidth = 4000000000u;
+    data.parts.push_back(part);
+    const std::wstring text = Written(data);
+    EXPECT_EQ(text.substr(16, 4), L"123 ");
+    EXPECT_NE(text.find(L"00.000 000 000 0000 000 4000000000 00000 00\n"), std::wstring::npos);
+}
+
+TEST(MountingPartData, PartWithoutElementsReadsBackCleanly)
+{
+    for (std::int16_t version : {std::int16_t{500}, std::int16_t{502}, std::int16_t{600}}) {
+        MountingPartData written;
+        written.version = version;
+        MountingPart first(version);
+        first.partNumber = 1;
+        first.partKind = L'C';
+        first.partSubCode = 12;
+        first.partCode = L"ABCDEFGHIJ";
+        first.partName = L"Hülse für Durchführung, vierzig Zeichen.";
+        ASSERT_EQ(first.partName.size(), 40u);
+        first.partArea = 1.25;
+        first.setValue1 = 3;
+        first.setValue2 = version >= 600 ? -40 : 40;
+        if (version >= 600) {
+            first.partText1 = L"ABCDEFGHIJKLMNOPQRST";
+            first.partText2 = L"abcdefghijklmnopqrst";
+            first.position = Point2d(-120, 300);
+        }
+        first.partValue1 = 9;
+        first.partValue2 = 8;
+        first.partWidth = 1000;
+        first.partHeight = 1250;
+        MountingPart second(version);
+        second.partNumber = 2;
+        written.parts = {first, second};
+
+        StringArchive out;
+        ASSERT_TRUE(written.Write(out.archive));
+        StringArchive in(out.Text() + L"NEXT");
+        MountingPartData read;
+        EXPECT_TRUE(read.Read(in.archive)) << version;
+        EXPECT_EQ(read.version, version);
+        ASSERT_EQ(read.parts.size(), 2u);
+        EXPECT_EQ(read.parts[0].version, version);
+        ExpectSameFields(read.parts[0], first);
+        // An empty text of version 600 comes back as its twenty blanks.
+        MountingPart expectedSecond = second;
+        if (version >= 600) {
+            expectedSecond.partText1 = Spaces(20);
+            expectedSecond.partText2 = Spaces(20);
+        }
+        ExpectSameFields(read.parts[1], expectedSecond);
+        EXPECT_EQ(ReadToken(in.archive), L"NEXT");
+    }
+}
+
+TEST(MountingPartData, PartWithCircleElementsReadsBackCleanly)
+{
+    MountingPartData written;
+    written.version = 600;
+    MountingPart part(600);
+    part.partNumber = 1;
+    part.geoData.emplace_back(600, L'K', std::make_unique<Circle>(600, Point2d(-5, 5), 20));
+    part.geoData.emplace_back(600, L'K', std::make_unique<Circle>(600, Point2d(5, 5), 10));
+    written.parts = {part, part};
+    written.parts[1].partNumber = 2;
+
+    StringArchive out;
+    ASSERT_TRUE(written.Write(out.archive));
+    StringArchive in(out.Text());
+    MountingPartData read;
+    EXPECT_TRUE(read.Read(in.archive));
+    ASSERT_EQ(read.parts.size(), 2u);
+    EXPECT_EQ(read.parts[1].partNumber, 2);
+    ASSERT_EQ(read.parts[1].geoData.size(), 2u);
+    auto* circle = dynamic_cast<Circle*>(read.parts[1].geoData[1].curve);
+    ASSERT_NE(circle, nullptr);
+    EXPECT_EQ(circle->version, 600);
+    EXPECT_EQ(circle->centre, Point2d(5, 5));
+    EXPECT_EQ(circle->radius, 10);
+}
+
+TEST(MountingPartData, LineElementMakesThePartEatTheEnd)
+{
+    MountingPartData written;
+    written.parts.push_back(AnchorChannel(502));
+    StringArchive out;
+    ASSERT_TRUE(written.Write(out.archive));
+    ASSERT_EQ(out.Text(), L"MOUNPART\n502\n001\n"
+                          L"012 B34 000 HTA-40     Ankerschiene" + Spaces(28) + L"\n"
+                          L"06.000 005 007 1234 056 03000 02000 01\n"
+                          L"S 00000 00000 03000 02000 0000\n"
+                          L"END\n");
+
+    StringArchive in(out.Text());
+    MountingPartData read;
+    EXPECT_FALSE(read.Read(in.archive));
+    EXPECT_FALSE(in.archive.valid);
+    // The part itself was read whole before its skip took the "END".
+    ASSERT_EQ(read.parts.size(), 1u);
+    ASSERT_EQ(read.parts[0].geoData.size(), 1u);
+    auto* line = dynamic_cast<LineSegment*>(read.parts[0].geoData[0].curve);
+    ASSERT_NE(line, nullptr);
+    EXPECT_EQ(line->end, Point2d(3000, 2000));
+}
+
+TEST(MountingPartData, LineBehindALineElementIsDropped)
+{
+    StringArchive in(L"MOUNPART\n502\n001\n"
+                     L"012 B34 000 HTA-40     Ankerschiene\n"
+                     L"06.000 005 007 1234 056 03000 02000 01\n"
+                     L"S 00000 00000 03000 02000 0000\n"
+                     L"this line is lost\n"
+                     L"END\n");
+    MountingPartData read;
+    EXPECT_TRUE(read.Read(in.archive));
+    ASSERT_EQ(read.parts.size(), 1u);
+    EXPECT_EQ(read.parts[0].partName, L"Ankerschiene");
+    EXPECT_EQ(read.parts[0].setValue2, 7);
+    EXPECT_EQ(read.parts[0].geoData.size(), 1u);
+}
+
+TEST(MountingPart, NegativeSetValue2BelowVersion600DoesNotReadBack)
+{
+    MountingPart written(502);
+    written.setValue2 = -7;
+    StringArchive out;
+    ASSERT_TRUE(written.Write(out.archive));
+    ASSERT_EQ(out.Text(), L"000 000 000 " + Spaces(10) + L" " + Spaces(40) + L"\n"
+                          L"00.000 000 0-7 0000 000 00000 00000 00\n");
+
+    // "0-7" reads as 0 and hands "-7" on: every later field moves by one.
+    StringArchive in(out.Text());
+    MountingPart read(502);
+    EXPECT_TRUE(read.Read(in.archive));
+    EXPECT_EQ(read.setValue2, 0);
+    EXPECT_EQ(read.partValue1, -7);
+    EXPECT_EQ(read.partValue2, 0);
+    EXPECT_TRUE(read.geoData.empty());
+}
+
+TEST(MountingPart, NameLineIsCutAtItsLastCarriageReturn)
+{
+    StringArchive in(L"001 A07 000 CODE       Name with\rcarriage return  \r\n"
+                     L"01.500 001 002 0003 004 00005 00006 00\n"
+                     L"\nNEXT");
+    MountingPart part(502);
+    EXPECT_TRUE(part.Read(in.archive));
+    EXPECT_EQ(part.partNumber, 1);
+    EXPECT_EQ(part.partKind, L'A');
+    EXPECT_EQ(part.partSubCode, 7);
+    EXPECT_EQ(part.partCode, L"CODE      ");
+    EXPECT_EQ(part.partName, L"Name with\rcarriage return  ");
+    EXPECT_EQ(part.partArea, 1.5);
+    EXPECT_EQ(part.setValue1, 1);
+    EXPECT_EQ(part.setValue2, 2);
+    EXPECT_EQ(part.partValue1, 3);
+    EXPECT_EQ(part.partValue2, 4);
+    EXPECT_EQ(part.partWidth, 5u);
+    EXPECT_EQ(part.partHeight, 6u);
+    EXPECT_EQ(ReadToken(in.archive), L"NEXT");
+}
+
+TEST(MountingPart, ReadsTheTextLinesAndThePositionFromVersion600)
+{
+    StringArchive in(L"002 000 000 " + Spaces(10) + L" Name\n" + Spaces(16) + L"Oben\n"
+                     L"unten\n"
+                     L"00.000 000 -00120 +00300 +00040 0000 000 00000 00000 00\n"
+                     L"\n");
+    MountingPart part(600);
+    EXPECT_TRUE(part.Read(in.archive));
+    EXPECT_EQ(part.partNumber, 2);
+    EXPECT_EQ(part.partName, L"Name");
+    EXPECT_EQ(part.partText1, Spaces(16) + L"Oben");
+    EXPECT_EQ(part.partText2, L"unten");
+    EXPECT_EQ(part.position, Point2d(-120, 300));
+    EXPECT_EQ(part.setValue2, 40);
+}
+
+TEST(MountingPartData, WrongTagClearsValid)
+{
+    StringArchive in(L"MOUNTING\n502\n000\nEND\n");
+    MountingPartData data;
+    EXPECT_FALSE(data.Read(in.archive));
+    EXPECT_FALSE(in.archive.valid);
+    EXPECT_FALSE(in.archive.fail());
+}
+
+TEST(MountingPartData, WrongEndClearsValid)
+{
+    StringArchive in(L"MOUNPART\n502\n000\nEN\n");
+    MountingPartData data;
+    EXPECT_FALSE(data.Read(in.archive));
+    EXPECT_FALSE(in.archive.valid);
+}
+
+TEST(MountingPartData, FailureInsideAPartFailsTheRead)
+{
+    StringArchive in(L"MOUNPART\n502\n001\n001 000 000 x\nxx.000 000 000 0000 000 00000 00000 00\n\nEND\n");
+    MountingPartData data;
+    EXPECT_FALSE(data.Read(in.archive));
+    EXPECT_TRUE(data.parts.empty());
+}
+
+TEST(MountingPartData, ReadAppends)
+{
+    MountingPartData data;
+    data.parts.push_back(MountingPart(502));
+    StringArchive in(L"MOUNPART\n502\n000\nEND\n");
+    EXPECT_TRUE(data.Read(in.archive));
+    EXPECT_EQ(data.parts.size(), 1u);
+}
+
+TEST(MountingPart, CopyAndAssignmentKeepTheirOwnElements)
+{
+    MountingPart original = AnchorChannel(600);
+    original.partText1 = L"T1";
+    original.position = Point2d(4, 5);
+    MountingPart copy(original);
+    ExpectSameFields(copy, original);
+    EXPECT_EQ(copy.version, 600);
+    EXPECT_NE(copy.geoData[0].curve, original.geoData[0].curve);
+    copy.Clear();
+    EXPECT_EQ(original.geoData.size(), 1u);
+
+    MountingPart assigned(502);
+    assigned = original;
+    ExpectSameFields(assigned, original);
+    EXPECT_EQ(assigned.version, 600);
+    assigned.Add(original.geoData[0]);
+    EXPECT_EQ(assigned.geoData.size(), 2u);
+    EXPECT_EQ(original.geoData.size(), 1u);
+
+    MountingPartData data;
+    data.Add(original);
+    MountingPartData dataCopy(data);
+    dataCopy.Clear();
+    EXPECT_EQ(data.parts.size(), 1u);
+}
+
+} // namespace
+} // namespace ItUnitechnik
