@@ -1,0 +1,99 @@
+#include "records/reinforcement/bending_form_free.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "framework/read_idioms.h"
+
+namespace ItUnitechnik {
+
+bool BendingFormSegment::Write(Archive& ar)
+{
+    ar << UInt(5, length);
+    ar << Blank;
+    ar << SInt(3, angle);
+    return Healthy(ar);
+}
+
+bool BendingFormSegment::Read(Archive& ar)
+{
+    ar >> length >> angle;
+    return Healthy(ar);
+}
+
+bool BendingFormPart::Write(Archive& ar)
+{
+    ar << UInt(2, partNumber);
+    ar << Blank;
+    ar << UInt(2, segments.size());
+    for (BendingFormSegment& segment : segments) {
+        ar << Blank;
+        segment.Write(ar);
+    }
+    return Healthy(ar);
+}
+
+bool BendingFormPart::Read(Archive& ar)
+{
+    std::int32_t count = 0;
+    ar >> partNumber >> count;
+    for (std::int32_t i = 0; i < count; ++i) {
+        // Appended whatever the stream says: a short line leaves 0, 0 behind.
+        BendingFormSegment segment(0, 0);
+        segment.Read(ar);
+        segments.push_back(segment);
+    }
+    return Healthy(ar);
+}
+
+bool BendingFormFree::Write(Archive& ar)
+{
+    // No adjustment of its own: the bar's integer fields before it leave the
+    // right alignment in force.
+    ar << RText(3, formCode);
+    ar << Blank;
+    ar << UInt(2, parts.size());
+    if (parts.empty()) {
+        ar << EndLine;
+    }
+    for (BendingFormPart& part : parts) {
+        ar << EndLine;
+        part.Write(ar);
+    }
+    return Healthy(ar);
+}
+
+bool BendingFormFree::Read(Archive& ar)
+{
+    formCode = ReadToken(ar);
+    std::int32_t count = 0;
+    ar >> count;
+    for (std::int32_t i = 0; i < count; ++i) {
+        BendingFormPart part;
+        part.Read(ar);
+        if (Healthy(ar)) {
+            parts.push_back(part);
+        }
+    }
+    return Healthy(ar);
+}
+
+void BendingFormFree::buildFromSegments(const std::vector<BendingFormSegment>& entries)
+{
+    formCode = L"000";
+    parts.clear();
+    BendingFormPart current(1);
+    std::size_t handled = 0;
+    for (const BendingFormSegment& entry : entries) {
+        current.segments.push_back(entry);
+        ++handled;
+        if (handled % 6 == 0) {
+            parts.push_back(current);
+            current = BendingFormPart(current.partNumber + 1);
+        }
+    }
+    if (handled % 6 != 0) {
+        parts.push_back(current);
+    }
+}
+
+} // namespace ItUnitechnik

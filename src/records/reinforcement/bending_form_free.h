@@ -1,0 +1,68 @@
+#pragma once
+
+#include "framework/collection.h"
+#include "framework/serializable.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace ItUnitechnik {
+
+// One segment of a free bending form: a length and the angle that follows it.
+class BendingFormSegment : public Serializable {
+public:
+    explicit BendingFormSegment(std::int32_t segmentLength = 0, std::int32_t segmentAngle = 0)
+        : length(segmentLength), angle(segmentAngle)
+    {
+    }
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::int32_t length = 0; // 5 digits, no sign
+    std::int32_t angle = 0;  // sign and 3 digits
+};
+
+// One line of a free bending form: its number and up to six segments.
+class BendingFormPart : public Serializable, public ItCollectionImpl<std::vector<BendingFormSegment>> {
+public:
+    BendingFormPart() : ItCollectionImpl(&segments) {}
+    explicit BendingFormPart(std::int32_t number) : ItCollectionImpl(&segments), partNumber(number) {}
+    BendingFormPart(const BendingFormPart& other)
+        : Serializable(other), ItCollectionImpl(&segments), partNumber(other.partNumber), segments(other.segments)
+    {
+    }
+    BendingFormPart& operator=(const BendingFormPart&) = default;
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::int32_t partNumber = 0;              // first on the line, 2 digits; from 1
+    std::vector<BendingFormSegment> segments; // behind the count, in file order
+};
+
+// A free bending form: a code and its lines of segments, behind the bar's
+// second line. The last line is ended by whoever writes the bar.
+class BendingFormFree : public Serializable, public ItCollectionImpl<std::vector<BendingFormPart>> {
+public:
+    BendingFormFree() : ItCollectionImpl(&parts) {}
+    BendingFormFree(const BendingFormFree& other)
+        : Serializable(other), ItCollectionImpl(&parts), formCode(other.formCode), parts(other.parts)
+    {
+    }
+    BendingFormFree& operator=(const BendingFormFree&) = default;
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    // Gives the form the code "000" and puts the segments into lines of six,
+    // numbered from 1, in place of the lines it had. A count that is a
+    // multiple of six leaves no empty line behind; no segments give no line.
+    void buildFromSegments(const std::vector<BendingFormSegment>& entries);
+
+    std::wstring formCode;              // first on the head line, 3 places
+    std::vector<BendingFormPart> parts; // one line each, behind the head line
+};
+
+} // namespace ItUnitechnik
