@@ -1,0 +1,57 @@
+#include "records/reinforcement/anchor_bar.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+
+namespace ItUnitechnik {
+
+bool AnchorBar::Write(Archive& ar)
+{
+    ar << UInt(3, firstType);
+    ar << Blank;
+    ar << UInt(3, secondType);
+    ar << Blank;
+    ar << UInt(5, firstLength);
+    ar << Blank;
+    ar << UInt(5, secondLength);
+    ar << Blank;
+    return Healthy(ar);
+}
+
+bool AnchorBar::Read(Archive& ar)
+{
+    ar >> firstType >> secondType >> firstLength >> secondLength;
+    return Healthy(ar);
+}
+
+bool AnchorBarData::Write(Archive& ar)
+{
+    ar << UInt(3, anchorCode);
+    ar << Blank;
+    ar << UInt(3, bars.size());
+    // The last line is ended by the list that holds the girder.
+    if (bars.empty()) {
+        ar << EndLine;
+    }
+    for (AnchorBar& bar : bars) {
+        ar << EndLine;
+        bar.Write(ar);
+    }
+    return Healthy(ar);
+}
+
+bool AnchorBarData::Read(Archive& ar)
+{
+    std::int32_t count = 0;
+    ar >> anchorCode >> count;
+    for (std::int32_t i = 0; i < count; ++i) {
+        AnchorBar bar;
+        bar.Read(ar);
+        if (Healthy(ar)) {
+            bars.push_back(bar);
+        }
+    }
+    return Healthy(ar);
+}
+
+} // namespace ItUnitechnik

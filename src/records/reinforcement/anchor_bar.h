@@ -1,0 +1,43 @@
+#pragma once
+
+#include "framework/collection.h"
+#include "framework/serializable.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace ItUnitechnik {
+
+// One anchor bar of a braced girder: a line of four numbers that ends in a
+// blank.
+class AnchorBar : public Serializable {
+public:
+    AnchorBar() = default;
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::int32_t firstType = 0;    // 3 digits, first on the line
+    std::int32_t secondType = 0;   // 3 digits
+    std::int32_t firstLength = 0;  // 5 digits
+    std::int32_t secondLength = 0; // 5 digits, then the line's trailing blank
+};
+
+// The anchor bars of a braced girder, behind the girder's lines; no tag.
+class AnchorBarData : public Serializable, public ItCollectionImpl<std::vector<AnchorBar>> {
+public:
+    AnchorBarData() : ItCollectionImpl(&bars) {}
+    AnchorBarData(const AnchorBarData& other)
+        : Serializable(other), ItCollectionImpl(&bars), anchorCode(other.anchorCode), bars(other.bars)
+    {
+    }
+    AnchorBarData& operator=(const AnchorBarData&) = default;
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::int32_t anchorCode = 0; // head line, 3 digits, before the count
+    std::vector<AnchorBar> bars; // one line each, behind the head line
+};
+
+} // namespace ItUnitechnik

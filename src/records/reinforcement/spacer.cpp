@@ -1,0 +1,68 @@
+#include "records/reinforcement/spacer.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+
+namespace ItUnitechnik {
+
+bool SpacerPosition::Write(Archive& ar)
+{
+    ar << UInt(5, value1);
+    ar << Blank;
+    ar << UInt(5, value2);
+    ar << Blank;
+    ar << UInt(5, value3);
+    ar << Blank;
+    ar << UInt(5, value4);
+    ar << Blank;
+    ar << UInt(5, value5);
+    ar << Blank;
+    ar << UInt(5, value6);
+    ar << Blank;
+    ar << UInt(5, value7);
+    ar << Blank;
+    ar << UInt(5, value8);
+    ar << Blank;
+    ar << UInt(5, value9);
+    ar << Blank;
+    ar << UInt(5, value10);
+    return Healthy(ar);
+}
+
+bool SpacerPosition::Read(Archive& ar)
+{
+    ar >> value1 >> value2 >> value3 >> value4 >> value5 >> value6 >> value7 >> value8 >> value9 >> value10;
+    return Healthy(ar);
+}
+
+bool SpacerData::Write(Archive& ar)
+{
+    ar << UInt(3, spacerCode);
+    ar << Blank;
+    ar << UInt(3, positions.size());
+    // The last line is ended by the list that holds the bar.
+    if (positions.empty()) {
+        ar << EndLine;
+    }
+    for (SpacerPosition& position : positions) {
+        ar << EndLine;
+        position.Write(ar);
+    }
+    return Healthy(ar);
+}
+
+bool SpacerData::Read(Archive& ar)
+{
+    std::int32_t count = 0;
+    ar >> spacerCode >> count;
+    for (std::int32_t i = 0; i < count; ++i) {
+        // Kept whatever the stream says: a broken file leaves zeros or a
+        // partly read position behind.
+        SpacerPosition position;
+        position.Read(ar);
+        positions.push_back(position);
+    }
+    return Healthy(ar);
+}
+
+} // namespace ItUnitechnik

@@ -1,0 +1,85 @@
+#include "records/reinforcement/welding_point.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+
+namespace ItUnitechnik {
+
+bool WeldingIntersection::Write(Archive& ar)
+{
+    ar << UInt(5, offset);
+    ar << Blank;
+    ar << UInt(3, weldCode);
+    return Healthy(ar);
+}
+
+bool WeldingIntersection::Read(Archive& ar)
+{
+    ar >> offset >> weldCode;
+    return Healthy(ar);
+}
+
+bool WeldingPoint::Write(Archive& ar)
+{
+    bool first = true;
+    for (WeldingIntersection& intersection : intersections) {
+        if (!first) {
+            ar << Blank;
+        }
+        first = false;
+        intersection.Write(ar);
+    }
+    return Healthy(ar);
+}
+
+bool WeldingPoint::Read(Archive& ar)
+{
+    for (WeldingIntersection& intersection : intersections) {
+        intersection.Read(ar);
+    }
+    return Healthy(ar);
+}
+
+bool WeldingPointData::Write(Archive& ar)
+{
+    ar << UInt(3, weldValueA);
+    ar << Blank;
+    ar << UInt(3, weldValueB);
+    ar << Blank;
+    ar << UInt(3, weldValueC);
+    ar << Blank;
+    ar << Char(weldLetter);
+    ar << UInt(1, static_cast<int>(weldFlag));
+    ar << UInt(3, points.size());
+    // The last line is ended by the list that holds the bar or girder.
+    if (points.empty()) {
+        ar << EndLine;
+    }
+    for (WeldingPoint& point : points) {
+        ar << EndLine;
+        point.Write(ar);
+    }
+    return Healthy(ar);
+}
+
+bool WeldingPointData::Read(Archive& ar)
+{
+    ar >> weldValueA >> weldValueB >> weldValueC;
+    ar >> weldLetter;
+    // The flag and the count stand side by side in the file, and the boolean
+    // extractor takes all their digits at once: only a file with white space
+    // between them reads as meant.
+    ar >> weldFlag;
+    std::int32_t count = 0;
+    ar >> count;
+    for (std::int32_t i = 0; i < count; ++i) {
+        WeldingPoint point;
+        point.Read(ar);
+        if (Healthy(ar)) {
+            points.push_back(point);
+        }
+    }
+    return Healthy(ar);
+}
+
+} // namespace ItUnitechnik

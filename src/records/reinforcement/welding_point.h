@@ -1,0 +1,66 @@
+#pragma once
+
+#include "framework/collection.h"
+#include "framework/serializable.h"
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace ItUnitechnik {
+
+// Where a welding point meets one crossing bar: an offset and a weld code.
+class WeldingIntersection : public Serializable {
+public:
+    WeldingIntersection() = default;
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::int32_t offset = 0;   // 5 digits
+    std::int32_t weldCode = 0; // 3 digits
+};
+
+// One welding point: always eight intersections on one line, also when fewer
+// are in use.
+class WeldingPoint : public Serializable {
+public:
+    WeldingPoint() = default;
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::array<WeldingIntersection, 8> intersections{}; // the whole line, in order
+};
+
+// The welding points of a bar or braced girder, behind its lines; no tag.
+class WeldingPointData : public Serializable, public ItCollectionImpl<std::vector<WeldingPoint>> {
+public:
+    // The head values get no value from the file's owner; a list that was
+    // never read writes zeros and the letter '0'.
+    WeldingPointData() : ItCollectionImpl(&points) {}
+    WeldingPointData(const WeldingPointData& other)
+        : Serializable(other),
+          ItCollectionImpl(&points),
+          weldValueA(other.weldValueA),
+          weldValueB(other.weldValueB),
+          weldValueC(other.weldValueC),
+          weldLetter(other.weldLetter),
+          weldFlag(other.weldFlag),
+          points(other.points)
+    {
+    }
+    WeldingPointData& operator=(const WeldingPointData&) = default;
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::int32_t weldValueA = 0;  // head line, 3 digits
+    std::int32_t weldValueB = 0;  // 3 digits
+    std::int32_t weldValueC = 0;  // 3 digits
+    wchar_t weldLetter = L'0';    // one character, no blank behind it
+    bool weldFlag = false;        // one digit, the count right behind it
+    std::vector<WeldingPoint> points; // one line each, behind the head line
+};
+
+} // namespace ItUnitechnik
