@@ -1,0 +1,76 @@
+#include "records/reinforcement/external_iron.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "framework/read_idioms.h"
+
+namespace ItUnitechnik {
+
+bool ExternalIron::Write(Archive& ar)
+{
+    ar << UInt(3, ironNumber);
+    ar << Blank;
+    ar << UInt(2, ironCode);
+    ar << Blank;
+    ar << UInt(5, ironCount);
+    ar << Blank;
+    ar << Real(3, 3, ironValue);
+    ar << Blank;
+    // No alignment of its own: the Real before it leaves the text at the
+    // right end of its places.
+    ar << RText(30, ironText);
+    return Healthy(ar);
+}
+
+bool ExternalIron::Read(Archive& ar)
+{
+    ar >> ironNumber >> ironCode >> ironCount >> ironValue;
+    SkipChar(ar);
+    // The padding in front stays: the text comes back 30 places wide.
+    ironText = ReadLine(ar);
+    return Healthy(ar);
+}
+
+bool ExternalIronData::Write(Archive& ar)
+{
+    ar << Tag("EXTIRON_");
+    ar << UInt(3, version) << EndLine;
+    ar << UInt(3, irons.size()) << EndLine;
+    for (ExternalIron& iron : irons) {
+        iron.Write(ar);
+        ar << EndLine;
+    }
+    ar << Tag("END");
+    return Healthy(ar);
+}
+
+bool ExternalIronData::Read(Archive& ar)
+{
+    if (!Matches(ReadToken(ar), L"EXTIRON_")) {
+        ar.valid = false;
+        return false;
+    }
+    ar >> version;
+    std::int32_t count = 0;
+    ar >> count;
+    for (std::int32_t i = 0; i < count; ++i) {
+        ExternalIron iron;
+        iron.Read(ar);
+        if (Healthy(ar)) {
+            irons.push_back(iron);
+        }
+    }
+    if (!Matches(ReadToken(ar), L"END")) {
+        ar.valid = false;
+        return false;
+    }
+    return Healthy(ar);
+}
+
+void ExternalIronData::appendIron(ExternalIron& iron)
+{
+    iron.ironNumber = static_cast<std::int32_t>(irons.size()) + 1;
+    irons.push_back(iron);
+}
+
+} // namespace ItUnitechnik

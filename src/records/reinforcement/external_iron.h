@@ -1,0 +1,50 @@
+#pragma once
+
+#include "framework/collection.h"
+#include "framework/serializable.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace ItUnitechnik {
+
+// One external iron: a line of numbers and a text, the same at every version.
+class ExternalIron : public Serializable {
+public:
+    ExternalIron() = default;
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    std::int32_t ironNumber = 0; // first on the line, 3 digits; from 1
+    std::int32_t ironCode = 1;   // 2 digits
+    std::int32_t ironCount = 0;  // 5 digits
+    double ironValue = 0.0;      // 3 places, point, 3 decimals
+    std::wstring ironText;       // last, 30 places, standing at their right end
+};
+
+// The record "EXTIRON_": the external irons of an element or of a
+// reinforcement block.
+class ExternalIronData : public Serializable, public ItCollectionImpl<std::vector<ExternalIron>> {
+public:
+    ExternalIronData() : ItCollectionImpl(&irons) {}
+    ExternalIronData(const ExternalIronData& other)
+        : Serializable(other), ItCollectionImpl(&irons), version(other.version), irons(other.irons)
+    {
+    }
+    ExternalIronData& operator=(const ExternalIronData&) = default;
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    // Numbers the iron as the next of the list (count so far plus 1) and
+    // appends a copy straight to the vector, without the change hook. The
+    // caller finds the number in its own `iron`.
+    void appendIron(ExternalIron& iron);
+
+    std::int16_t version = 502;      // second line
+    std::vector<ExternalIron> irons; // count on the third line, then one line each
+};
+
+} // namespace ItUnitechnik
