@@ -1,0 +1,218 @@
+#include "records/reinforcement/rodstock.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "framework/read_idioms.h"
+
+namespace ItUnitechnik {
+
+Rodstock::Rodstock(std::int16_t barVersion)
+    : ItCollectionImpl<SpacerData>(&spacers), ItCollectionImpl<WeldingPointData>(&weldingPoints), version(barVersion)
+{
+}
+
+Rodstock::Rodstock(const Rodstock& other)
+    : Serializable(other),
+      ItCollectionImpl<SpacerData>(&spacers),
+      ItCollectionImpl<WeldingPointData>(&weldingPoints),
+      version(other.version),
+      number(other.number),
+      code(other.code),
+      rodKind(other.rodKind),
+      designation(other.designation),
+      firstSize(other.firstSize),
+      secondSize(other.secondSize),
+      thirdSize(other.thirdSize),
+      position(other.position),
+      positionZ(other.positionZ),
+      rotation(other.rotation),
+      extraDesignation(other.extraDesignation),
+      mountFlag(other.mountFlag),
+      auxFirst(other.auxFirst),
+      auxSecond(other.auxSecond),
+      auxThird(other.auxThird),
+      auxFourth(other.auxFourth),
+      auxFifth(other.auxFifth),
+      auxSixth(other.auxSixth),
+      hasWeldingPoints(other.hasWeldingPoints),
+      hasSpacers(other.hasSpacers),
+      bendingKind(other.bendingKind),
+      firstForm(other.firstForm),
+      secondForm(other.secondForm),
+      formAngle(other.formAngle),
+      freeForm(other.freeForm),
+      spacers(other.spacers),
+      weldingPoints(other.weldingPoints)
+{
+}
+
+void Rodstock::applyFlagsCode(std::int32_t flagsCode)
+{
+    const std::int32_t hundreds = flagsCode / 100;
+    const std::int32_t tens = (flagsCode - 100 * hundreds) / 10;
+    hasWeldingPoints = hundreds == 1;
+    // One digit asks for spacers and for the two coded forms together.
+    hasSpacers = tens == 1;
+    if (tens == 0) {
+        bendingKind = L'0';
+    } else if (tens == 1) {
+        bendingKind = L'1';
+    } else {
+        bendingKind = L'2';
+    }
+}
+
+bool Rodstock::Write(Archive& ar)
+{
+    ar << UInt(3, number);
+    ar << Blank;
+    ar << ZText(3, code);
+    ar << Blank;
+    ar << UInt(1, rodKind);
+    ar << Blank;
+    if (version >= 600) {
+        ar << Text(10, designation);
+    } else {
+        ar << Text(3, designation);
+    }
+    ar << Blank;
+    ar << UInt(5, firstSize);
+    ar << Blank;
+    ar << UInt(3, secondSize);
+    ar << Blank;
+    ar << UInt(5, thirdSize);
+    ar << Blank;
+    ar << SInt(5, position.x);
+    ar << Blank;
+    ar << SInt(5, position.y);
+    ar << Blank;
+    ar << SInt(5, positionZ);
+    ar << Blank;
+    ar << SInt(3, rotation);
+    ar << Blank;
+    // The signed field before it leaves `internal`: the text is padded in front.
+    ar << RText(10, extraDesignation);
+    ar << Blank;
+    ar << UInt(1, static_cast<int>(mountFlag));
+    ar << EndLine;
+
+    ar << UInt(3, auxFirst);
+    ar << Blank;
+    ar << UInt(3, auxSecond);
+    ar << Blank;
+    ar << UInt(3, auxThird);
+    ar << Blank;
+    ar << UInt(5, auxFourth);
+    ar << Blank;
+    ar << UInt(5, auxFifth);
+    ar << Blank;
+    ar << UInt(5, auxSixth);
+    ar << Blank;
+    ar << UInt(1, static_cast<int>(hasWeldingPoints));
+    ar << UInt(1, static_cast<int>(hasSpacers));
+    ar << Char(bendingKind);
+
+    // Whatever comes last is ended by the list.
+    if (bendingKind == L'1') {
+        ar << EndLine;
+        firstForm.Write(ar);
+        ar << Blank;
+        secondForm.Write(ar);
+        ar << Blank;
+        ar << SInt(3, formAngle);
+    } else if (bendingKind == L'2') {
+        ar << EndLine;
+        freeForm.Write(ar);
+    }
+    if (hasSpacers) {
+        ar << EndLine;
+        spacers.Write(ar);
+    }
+    if (hasWeldingPoints) {
+        ar << EndLine;
+        weldingPoints.Write(ar);
+    }
+    return Healthy(ar);
+}
+
+bool Rodstock::Read(Archive& ar)
+{
+    ar >> number;
+    code = ReadToken(ar);
+    ar >> rodKind;
+    SkipChar(ar);
+    GetText(ar, version >= 600 ? 10 : 3, designation);
+    ar >> firstSize >> secondSize >> thirdSize;
+    position.Read(ar);
+    ar >> positionZ >> rotation;
+    SkipChar(ar);
+    GetText(ar, 10, extraDesignation);
+    ar >> mountFlag >> auxFirst >> auxSecond >> auxThird >> auxFourth >> auxFifth >> auxSixth;
+
+    wchar_t flag = L'0';
+    ar >> flag;
+    hasWeldingPoints = flag != L'0';
+    ar >> flag;
+    hasSpacers = flag != L'0';
+    ar >> bendingKind;
+
+    if (bendingKind == L'1') {
+        firstForm.Read(ar);
+        secondForm.Read(ar);
+        ar >> formAngle;
+    } else if (bendingKind == L'2') {
+        freeForm.Read(ar);
+    }
+    if (hasSpacers) {
+        spacers.Read(ar);
+    }
+    if (hasWeldingPoints) {
+        weldingPoints.Read(ar);
+    }
+    return Healthy(ar);
+}
+
+bool RodstockData::Write(Archive& ar)
+{
+    ar << Tag("RODSTOCK");
+    ar << UInt(3, version) << EndLine;
+    ar << UInt(3, bars.size()) << EndLine;
+    for (Rodstock& bar : bars) {
+        bar.Write(ar);
+        ar << EndLine;
+    }
+    ar << Tag("END");
+    return Healthy(ar);
+}
+
+bool RodstockData::Read(Archive& ar)
+{
+    if (!Matches(ReadToken(ar), L"RODSTOCK")) {
+        ar.valid = false;
+        return false;
+    }
+    ar >> version;
+    std::int32_t count = 0;
+    ar >> count;
+    for (std::int32_t i = 0; i < count; ++i) {
+        Rodstock bar(version);
+        bar.Read(ar);
+        if (Healthy(ar)) {
+            bars.push_back(bar);
+        }
+    }
+    if (!Matches(ReadToken(ar), L"END")) {
+        ar.valid = false;
+        return false;
+    }
+    return Healthy(ar);
+}
+
+void RodstockData::appendRodstock(Rodstock& bar)
+{
+    bar.version = version;
+    bar.number = static_cast<std::int32_t>(bars.size()) + 1;
+    Add(bar);
+}
+
+} // namespace ItUnitechnik
