@@ -1,0 +1,169 @@
+#include "records/reinforcement/braced_girder.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "framework/read_idioms.h"
+
+namespace ItUnitechnik {
+
+BracedGirder::BracedGirder()
+    : ItCollectionImpl<WeldingPointData>(&weldingPoints), ItCollectionImpl<AnchorBarData>(&anchorBars)
+{
+}
+
+BracedGirder::BracedGirder(const BracedGirder& other)
+    : Serializable(other),
+      ItCollectionImpl<WeldingPointData>(&weldingPoints),
+      ItCollectionImpl<AnchorBarData>(&anchorBars),
+      number(other.number),
+      code(other.code),
+      typeNumber(other.typeNumber),
+      designation(other.designation),
+      firstSize(other.firstSize),
+      position(other.position),
+      positionZ(other.positionZ),
+      rotation(other.rotation),
+      mountFlag(other.mountFlag),
+      firstCode(other.firstCode),
+      secondCode(other.secondCode),
+      auxNumber(other.auxNumber),
+      scaledValue(other.scaledValue),
+      shortNumber(other.shortNumber),
+      thirdCode(other.thirdCode),
+      lastNumber(other.lastNumber),
+      hasAnchorBars(other.hasAnchorBars),
+      hasWeldingPoints(other.hasWeldingPoints),
+      weldingPoints(other.weldingPoints),
+      anchorBars(other.anchorBars)
+{
+}
+
+bool BracedGirder::Write(Archive& ar)
+{
+    ar << UInt(3, number);
+    ar << Blank;
+    ar << ZText(3, code);
+    ar << Blank;
+    ar << UInt(5, typeNumber);
+    ar << Blank;
+    ar << Text(10, designation);
+    ar << Blank;
+    ar << UInt(5, firstSize);
+    ar << Blank;
+    ar << SInt(5, position.x);
+    ar << Blank;
+    ar << SInt(5, position.y);
+    ar << Blank;
+    ar << SInt(5, positionZ);
+    ar << Blank;
+    ar << SInt(3, rotation);
+    ar << Blank;
+    ar << UInt(1, static_cast<int>(mountFlag));
+    ar << EndLine;
+
+    ar << ZText(3, firstCode);
+    ar << Blank;
+    ar << ZText(3, secondCode);
+    ar << Blank;
+    ar << UInt(3, auxNumber);
+    ar << Blank;
+    ar << Real(2, 3, scaledValue);
+    ar << Blank;
+    ar << UInt(2, shortNumber);
+    ar << Blank;
+    ar << RText(3, thirdCode, Adjust::right);
+    ar << Blank;
+    ar << UInt(5, lastNumber);
+    ar << Blank;
+    ar << UInt(1, static_cast<int>(hasWeldingPoints));
+    ar << Char(L'0');
+    ar << UInt(1, static_cast<int>(hasAnchorBars));
+
+    // Whatever comes last is ended by the list.
+    if (hasWeldingPoints) {
+        ar << EndLine;
+        weldingPoints.Write(ar);
+    }
+    if (hasAnchorBars) {
+        ar << EndLine;
+        anchorBars.Write(ar);
+    }
+    return Healthy(ar);
+}
+
+bool BracedGirder::Read(Archive& ar)
+{
+    ar >> number;
+    code = ReadToken(ar);
+    ar >> typeNumber;
+    SkipChar(ar);
+    GetText(ar, 10, designation);
+    ar >> firstSize;
+    position.Read(ar);
+    ar >> positionZ >> rotation >> mountFlag;
+
+    firstCode = ReadToken(ar);
+    secondCode = ReadToken(ar);
+    ar >> auxNumber >> scaledValue >> shortNumber;
+    thirdCode = ReadToken(ar);
+    ar >> lastNumber;
+
+    wchar_t flag = L'0';
+    ar >> flag;
+    hasWeldingPoints = flag != L'0';
+    ar >> flag; // the constant between the two flags
+    ar >> flag;
+    hasAnchorBars = flag != L'0';
+
+    if (hasWeldingPoints) {
+        weldingPoints.Read(ar);
+    }
+    if (hasAnchorBars) {
+        anchorBars.Read(ar);
+    }
+    return Healthy(ar);
+}
+
+bool BracedGirderData::Write(Archive& ar)
+{
+    ar << Tag("BRGIRDER");
+    ar << UInt(3, version) << EndLine;
+    ar << UInt(3, girders.size()) << EndLine;
+    for (BracedGirder& girder : girders) {
+        girder.Write(ar);
+        ar << EndLine;
+    }
+    ar << Tag("END");
+    return Healthy(ar);
+}
+
+bool BracedGirderData::Read(Archive& ar)
+{
+    if (!Matches(ReadToken(ar), L"BRGIRDER")) {
+        ar.valid = false;
+        return false;
+    }
+    ar >> version;
+    std::int32_t count = 0;
+    ar >> count;
+    for (std::int32_t i = 0; i < count; ++i) {
+        BracedGirder girder;
+        girder.Read(ar);
+        if (Healthy(ar)) {
+            girders.push_back(girder);
+        }
+    }
+    if (!Matches(ReadToken(ar), L"END")) {
+        ar.valid = false;
+        return false;
+    }
+    return Healthy(ar);
+}
+
+void BracedGirderData::appendGirder(BracedGirder& girder)
+{
+    girder.number = static_cast<std::int32_t>(girders.size()) + 1;
+    girders.push_back(girder);
+}
+
+} // namespace ItUnitechnik
