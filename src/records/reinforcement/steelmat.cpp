@@ -1,0 +1,111 @@
+#include "records/reinforcement/steelmat.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "framework/read_idioms.h"
+
+namespace ItUnitechnik {
+
+Steelmat::Steelmat() : ItCollectionImpl<RodstockData>(&rodstocks), ItCollectionImpl<BracedGirderData>(&girders) {}
+
+Steelmat::Steelmat(const Steelmat& other)
+    : Serializable(other),
+      ItCollectionImpl<RodstockData>(&rodstocks),
+      ItCollectionImpl<BracedGirderData>(&girders),
+      version(other.version),
+      number(other.number),
+      positionX(other.positionX),
+      positionY(other.positionY),
+      positionZ(other.positionZ),
+      firstFlag(other.firstFlag),
+      secondFlag(other.secondFlag),
+      name(other.name),
+      firstDimension(other.firstDimension),
+      secondDimension(other.secondDimension),
+      matKind(other.matKind),
+      extraTextA(other.extraTextA),
+      extraTextB(other.extraTextB),
+      rodstocks(other.rodstocks),
+      girders(other.girders)
+{
+}
+
+bool Steelmat::Write(Archive& ar)
+{
+    ar << Tag("STEELMAT");
+    ar << UInt(3, version) << EndLine;
+
+    ar << UInt(2, number);
+    ar << Blank;
+    ar << SInt(5, positionX);
+    ar << Blank;
+    ar << SInt(5, positionY);
+    ar << Blank;
+    ar << SInt(5, positionZ);
+    ar << Blank;
+    ar << UInt(1, static_cast<int>(firstFlag));
+    ar << Blank;
+    ar << UInt(1, static_cast<int>(secondFlag));
+    ar << Blank;
+    // The digit before it leaves the stream right-aligned: a short name stands
+    // at the right end of its places.
+    ar << RText(20, name);
+    ar << Blank;
+    ar << UInt(5, firstDimension);
+    ar << Blank;
+    ar << UInt(5, secondDimension);
+    ar << Blank;
+    ar << UInt(1, static_cast<std::int16_t>(matKind));
+    ar << EndLine;
+
+    if (version >= 600) {
+        ar << Text(20, extraTextA) << EndLine;
+        ar << Text(20, extraTextB) << EndLine;
+    }
+    ar << Tag("END");
+
+    rodstocks.Write(ar);
+    girders.Write(ar);
+    // The enclosing block ends this line.
+    ar << Literal("END STEELMAT");
+    return Healthy(ar);
+}
+
+bool Steelmat::Read(Archive& ar)
+{
+    if (!Matches(ReadToken(ar), L"STEELMAT")) {
+        ar.valid = false;
+        return false;
+    }
+    ar >> version >> number >> positionX >> positionY >> positionZ >> firstFlag >> secondFlag;
+    SkipChar(ar);
+    GetText(ar, 20, name);
+    ar >> firstDimension >> secondDimension >> matKind;
+    // The version just read decides, not the block's.
+    if (version >= 600) {
+        SkipLine(ar);
+        GetText(ar, 20, extraTextA);
+        SkipLine(ar);
+        GetText(ar, 20, extraTextB);
+    }
+    if (!Matches(ReadToken(ar), L"END")) {
+        ar.valid = false;
+        return false;
+    }
+    rodstocks.Read(ar);
+    if (!Healthy(ar)) {
+        return false;
+    }
+    girders.Read(ar);
+    if (!Healthy(ar)) {
+        return false;
+    }
+    SkipLine(ar);
+    if (!Matches(ReadLine(ar), L"END STEELMAT")) {
+        ar.valid = false;
+        return false;
+    }
+    return Healthy(ar);
+}
+
+} // namespace ItUnitechnik
