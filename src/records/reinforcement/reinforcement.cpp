@@ -1,0 +1,144 @@
+#include "records/reinforcement/reinforcement.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "framework/read_idioms.h"
+
+namespace ItUnitechnik {
+namespace {
+
+// Back to where an optional part began: the try is forgotten, flag and
+// stream state included. The state is cleared first, since a failed stream
+// does not seek.
+void Rewind(Archive& ar, std::streampos at)
+{
+    ar.clear();
+    ar.seekg(at);
+    ar.valid = true;
+}
+
+} // namespace
+
+Reinforcement::Reinforcement(const Reinforcement& other)
+    : Serializable(other),
+      ItCollectionImpl(&mats),
+      version(other.version),
+      firstText(other.firstText),
+      secondText(other.secondText),
+      thirdText(other.thirdText),
+      matFlag(other.matFlag),
+      mats(other.mats),
+      externalIrons(other.externalIrons),
+      hasExternalIrons(other.hasExternalIrons),
+      present(other.present)
+{
+}
+
+std::int16_t Reinforcement::appendSteelmat(const std::wstring& name, std::int32_t firstDimension,
+                                           std::int32_t secondDimension, std::int32_t firstFlag,
+                                           std::int32_t secondFlag, std::int32_t matKind,
+                                           const std::int32_t position[3])
+{
+    Steelmat mat;
+    mat.version = version;
+    mat.rodstocks.version = version;
+    mat.girders.version = version;
+    mat.name = name;
+    mat.firstDimension = firstDimension;
+    mat.secondDimension = secondDimension;
+    mat.firstFlag = firstFlag != 0;
+    mat.secondFlag = secondFlag != 0;
+    mat.matKind = matKind;
+    mat.positionX = position[0];
+    mat.positionY = position[1];
+    mat.positionZ = position[2];
+    mat.number = static_cast<std::int16_t>(mats.size() + 1);
+    Add(mat);
+    return mat.number;
+}
+
+bool Reinforcement::Write(Archive& ar)
+{
+    ar << Tag("REFORCEM");
+    ar << UInt(3, version) << EndLine;
+
+    ar << Text(10, firstText);
+    ar << Blank;
+    ar << Text(4, secondText);
+    ar << Blank;
+    ar << Text(8, thirdText);
+    ar << Blank;
+    ar << UInt(1, matFlag);
+    ar << EndLine;
+
+    ar << Tag("END");
+    for (Steelmat& mat : mats) {
+        mat.Write(ar);
+        ar << EndLine;
+    }
+    // Only a single-digit version of 5 or below leaves the irons out.
+    if (hasExternalIrons && version > 5) {
+        externalIrons.Write(ar);
+    }
+    ar << Tag("END REFORCEM");
+    return Healthy(ar);
+}
+
+bool Reinforcement::Read(Archive& ar)
+{
+    if (!Matches(ReadToken(ar), L"REFORCEM")) {
+        ar.valid = false;
+        return false;
+    }
+    ar >> version;
+    SkipLine(ar);
+
+    GetText(ar, 10, firstText);
+    SkipChar(ar);
+    GetText(ar, 4, secondText);
+    SkipChar(ar);
+    GetText(ar, 8, thirdText);
+    SkipChar(ar);
+    ar >> matFlag;
+
+    if (!Matches(ReadToken(ar), L"END")) {
+        ar.valid = false;
+        return false;
+    }
+    SkipLine(ar);
+
+    // The mats run up to the first thing that is no mat; that is no failure
+    // of the block.
+    for (;;) {
+        const std::streampos start = ar.tellg();
+        Steelmat mat;
+        mat.Read(ar);
+        if (!Healthy(ar)) {
+            Rewind(ar, start);
+            break;
+        }
+        mats.push_back(mat);
+    }
+
+    const std::streampos irons = ar.tellg();
+    externalIrons.Read(ar);
+    if (Healthy(ar)) {
+        hasExternalIrons = true;
+    } else {
+        Rewind(ar, irons);
+        hasExternalIrons = false;
+    }
+
+    // The same steps with or without irons. After a rewind the stream stands
+    // at the closing line itself, which the skip then drops: a block without
+    // irons reads only when a second closing line follows.
+    SkipLine(ar);
+    if (!Matches(ReadLine(ar), L"END REFORCEM")) {
+        ar.valid = false;
+        return false;
+    }
+    present = true;
+    return Healthy(ar);
+}
+
+} // namespace ItUnitechnik

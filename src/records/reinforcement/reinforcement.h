@@ -1,0 +1,45 @@
+#pragma once
+
+#include "framework/collection.h"
+#include "framework/serializable.h"
+#include "records/reinforcement/external_iron.h"
+#include "records/reinforcement/steelmat.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace ItUnitechnik {
+
+// The reinforcement block of an element or layer, from "REFORCEM" to
+// "END REFORCEM": its mats and, when a file carried them, external irons of
+// its own.
+class Reinforcement : public Serializable, public ItCollectionImpl<std::vector<Steelmat>> {
+public:
+    Reinforcement() : ItCollectionImpl(&mats) {}
+    Reinforcement(const Reinforcement& other);
+    Reinforcement& operator=(const Reinforcement&) = default;
+
+    bool Read(Archive& ar) override;
+    bool Write(Archive& ar) override;
+
+    // Makes a mat of this block's version (its bar and girder lists too),
+    // fills it, numbers it as the next of the block and appends a copy. A
+    // flag is set by any value but 0. Returns the mat's number.
+    std::int16_t appendSteelmat(const std::wstring& name, std::int32_t firstDimension,
+                                std::int32_t secondDimension, std::int32_t firstFlag,
+                                std::int32_t secondFlag, std::int32_t matKind,
+                                const std::int32_t position[3]);
+
+    std::int16_t version = 502;      // second line
+    std::wstring firstText;          // third line, 10 places
+    std::wstring secondText;         // 4 places
+    std::wstring thirdText;          // 8 places
+    std::int16_t matFlag = 0;        // last on the third line, one digit
+    std::vector<Steelmat> mats;      // behind "END", each ended by this block
+    ExternalIronData externalIrons;  // behind the mats, when `hasExternalIrons`
+    bool hasExternalIrons = false;   // set only by Read
+    bool present = false;            // the block holds something
+};
+
+} // namespace ItUnitechnik

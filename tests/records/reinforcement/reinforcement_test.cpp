@@ -1,0 +1,430 @@
+#include "records/reinforcement/reinforcement.h"
+
+#include "records/reinforcement/braced_girder.h"
+#include "records/reinforcement/rodstock.h"
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace ItUnitechnik {
+namespace {
+
+using Testing::StringArchive;
+
+std::wstring Written(Serializable& record)
+{
+    StringArchive s;
+    EXPECT_TRUE(record.Write(s.archive));
+    return s.Text();
+}
+
+// firstText (10 blanks), blank, secondText (4), blank, thirdText (8), blank,
+// matFlag.
+const std::wstring untouchedTextLine = L"          "
+                                       L" "
+                                       L"    "
+                                       L" "
+                                       L"        "
+                                       L" 0";
+
+// A mat as appendSteelmat makes it at 502, number 1, with no name.
+const std::wstring firstMat502 = L"STEELMAT\n502\n"
+                                 L"01 +00001 +00002 +00003 1 0 "
+                                 L"                    "
+                                 L" 03000 01200 1\n"
+                                 L"END\n"
+                                 L"RODSTOCK\n502\n000\nEND\n"
+                                 L"BRGIRDER\n502\n000\nEND\n"
+                                 L"END STEELMAT";
+
+const std::int32_t somewhere[3] = {1, 2, 3};
+
+TEST(Reinforcement, Defaults)
+{
+    Reinforcement block;
+    EXPECT_EQ(block.version, 502);
+    EXPECT_EQ(block.matFlag, 0);
+    EXPECT_EQ(block.externalIrons.version, 502);
+    EXPECT_FALSE(block.hasExternalIrons);
+    EXPECT_FALSE(block.present);
+    EXPECT_TRUE(block.mats.empty());
+}
+
+TEST(Reinforcement, UntouchedBlock)
+{
+    Reinforcement block;
+    EXPECT_EQ(untouchedTextLine.size(), 26u); // 10 + 1 + 4 + 1 + 8 + 2
+    EXPECT_EQ(Written(block), L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\nEND REFORCEM\n");
+}
+
+TEST(Reinforcement, TextsAreCutToTheirPlaces)
+{
+    Reinforcement block;
+    block.firstText = L"ABCDEFGHIJKL";
+    block.secondText = L"WXYZQ";
+    block.thirdText = L"123456789";
+    block.matFlag = 1;
+    EXPECT_EQ(Written(block), L"REFORCEM\n502\nABCDEFGHIJ WXYZ 12345678 1\nEND\nEND REFORCEM\n");
+}
+
+TEST(Reinforcement, ShortTextsAreLeftAligned)
+{
+    Reinforcement block;
+    block.firstText = L"A";
+    block.secondText = L"B";
+    block.thirdText = L"C";
+    EXPECT_EQ(Written(block), L"REFORCEM\n502\nA          B    C        0\nEND\nEND REFORCEM\n");
+}
+
+TEST(Reinforcement, AppendedMatsAreNumberedOneAndTwo)
+{
+    Reinforcement block;
+    EXPECT_EQ(block.appendSteelmat(L"first", 3000, 1200, 1, 0, 1, somewhere), 1);
+    EXPECT_EQ(block.appendSteelmat(L"second", 3000, 1200, 1, 0, 1, somewhere), 2);
+    ASSERT_EQ(block.mats.size(), 2u);
+    EXPECT_EQ(block.mats[0].number, 1);
+    EXPECT_EQ(block.mats[0].name, L"first");
+    EXPECT_EQ(block.mats[1].number, 2);
+    EXPECT_EQ(block.mats[1].name, L"second");
+}
+
+TEST(Reinforcement, AppendedMatTakesTheArgumentsAndTheVersion)
+{
+    Reinforcement block;
+    block.version = 600;
+    const std::int32_t position[3] = {10, -20, 30};
+    block.appendSteelmat(L"M", 2500, 1100, -7, 0, 65537, position);
+    block.appendSteelmat(L"N", 1, 2, 0, 2, 3, position);
+    ASSERT_EQ(block.mats.size(), 2u);
+    const Steelmat& mat = block.mats[0];
+    EXPECT_EQ(mat.version, 600);
+    EXPECT_EQ(mat.rodstocks.version, 600);
+    EXPECT_EQ(mat.girders.version, 600);
+    EXPECT_EQ(mat.firstDimension, 2500);
+    EXPECT_EQ(mat.secondDimension, 1100);
+    EXPECT_TRUE(mat.firstFlag);
+    EXPECT_FALSE(mat.secondFlag);
+    EXPECT_EQ(mat.matKind, 65537);
+    EXPECT_EQ(mat.positionX, 10);
+    EXPECT_EQ(mat.positionY, -20);
+    EXPECT_EQ(mat.positionZ, 30);
+    EXPECT_FALSE(block.mats[1].firstFlag);
+    EXPECT_TRUE(block.mats[1].secondFlag);
+    // appending fills no member of the block itself
+    EXPECT_FALSE(block.present);
+    EXPECT_EQ(block.matFlag, 0);
+}
+
+TEST(Reinforcement, MatsAreWrittenWithALineEndEach)
+{
+    Reinforcement block;
+    block.present = true;
+    block.matFlag = 1;
+    block.appendSteelmat(L"", 3000, 1200, 1, 0, 1, somewhere);
+    block.appendSteelmat(L"ABCDE", 3000, 1200, 5, 0, 65537, somewhere);
+    EXPECT_EQ(Written(block), L"REFORCEM\n502\n"
+                              L"          " L" " L"    " L" " L"        " L" 1\n"
+                              L"END\n"
+                                  + firstMat502 + L"\n"
+                                  + L"STEELMAT\n502\n"
+                                  + L"02 +00001 +00002 +00003 1 0 "
+                                  + L"               ABCDE"
+                                  + L" 03000 01200 1\n"
+                                  + L"END\n"
+                                  + L"RODSTOCK\n502\n000\nEND\n"
+                                  + L"BRGIRDER\n502\n000\nEND\n"
+                                  + L"END STEELMAT\n"
+                                  + L"END REFORCEM\n");
+}
+
+TEST(Reinforcement, OwnIronsAreWrittenAtThreeDigitVersions)
+{
+    Reinforcement block;
+    block.hasExternalIrons = true;
+    EXPECT_EQ(Written(block), L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n"
+                                  + L"EXTIRON_\n502\n000\nEND\n"
+                                  + L"END REFORCEM\n");
+}
+
+TEST(Reinforcement, OwnIronsStayOutAtVersionFive)
+{
+    Reinforcement block;
+    block.version = 5;
+    block.hasExternalIrons = true;
+    EXPECT_EQ(Written(block), L"REFORCEM\n005\n" + untouchedTextLine + L"\nEND\nEND REFORCEM\n");
+    block.version = 6;
+    EXPECT_EQ(Written(block), L"REFORCEM\n006\n" + untouchedTextLine + L"\nEND\n"
+                                  + L"EXTIRON_\n502\n000\nEND\n"
+                                  + L"END REFORCEM\n");
+}
+
+TEST(Reinforcement, OwnIronsStayOutWhenNotRead)
+{
+    Reinforcement block;
+    ExternalIron iron;
+    block.externalIrons.appendIron(iron);
+    EXPECT_EQ(Written(block), L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\nEND REFORCEM\n");
+}
+
+TEST(Reinforcement, BlockWithWellFormedIronsReadsBack)
+{
+    Reinforcement block;
+    block.version = 600;
+    block.matFlag = 1;
+    block.firstText = L"first";
+    block.appendSteelmat(L"ABCDE", 3000, 1200, 1, 0, 2, somewhere);
+    block.appendSteelmat(L"FGHIJ", 3100, 1300, 0, 1, 3, somewhere);
+    Rodstock bar(600);
+    block.mats[1].rodstocks.appendRodstock(bar);
+    block.hasExternalIrons = true;
+    block.externalIrons.version = 600;
+    ExternalIron iron;
+    iron.ironCode = 2;
+    iron.ironCount = 10;
+    iron.ironValue = 1.5;
+    iron.ironText = L"Anchor";
+    block.externalIrons.appendIron(iron);
+    StringArchive out;
+    ASSERT_TRUE(block.Write(out.archive));
+
+    StringArchive in(out.Text());
+    Reinforcement back;
+    EXPECT_TRUE(back.Read(in.archive));
+    EXPECT_TRUE(in.archive.valid);
+    EXPECT_TRUE(back.present);
+    EXPECT_TRUE(back.hasExternalIrons);
+    EXPECT_EQ(back.version, 600);
+    EXPECT_EQ(back.firstText, L"first     ");
+    EXPECT_EQ(back.secondText, L"    ");
+    EXPECT_EQ(back.thirdText, L"        ");
+    EXPECT_EQ(back.matFlag, 1);
+    ASSERT_EQ(back.mats.size(), 2u);
+    EXPECT_EQ(back.mats[0].name, L"               ABCDE");
+    EXPECT_EQ(back.mats[0].matKind, 2);
+    EXPECT_EQ(back.mats[1].number, 2);
+    EXPECT_EQ(back.mats[1].rodstocks.bars.size(), 1u);
+    EXPECT_EQ(back.externalIrons.version, 600);
+    ASSERT_EQ(back.externalIrons.irons.size(), 1u);
+    EXPECT_EQ(back.externalIrons.irons[0].ironText, L"                        Anchor");
+}
+
+TEST(Reinforcement, BlockWithoutIronsDoesNotReadBack)
+{
+    Reinforcement block;
+    block.appendSteelmat(L"", 3000, 1200, 1, 0, 1, somewhere);
+    StringArchive out;
+    ASSERT_TRUE(block.Write(out.archive));
+
+    StringArchive in(out.Text());
+    Reinforcement back;
+    EXPECT_FALSE(back.Read(in.archive));
+    EXPECT_FALSE(in.archive.valid);
+    EXPECT_FALSE(back.present);
+    EXPECT_FALSE(back.hasExternalIrons);
+    EXPECT_EQ(back.mats.size(), 1u); // the mats were read before the closing line failed
+}
+
+TEST(Reinforcement, BlockWithoutIronsReadsWhenASecondClosingLineFollows)
+{
+    StringArchive in(L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\nEND REFORCEM\nEND REFORCEM\n");
+    Reinforcement back;
+    EXPECT_TRUE(back.Read(in.archive));
+    EXPECT_TRUE(back.present);
+    EXPECT_FALSE(back.hasExternalIrons);
+    EXPECT_TRUE(back.mats.empty());
+}
+
+TEST(Reinforcement, BlockFollowedByAnIronRecordDoesNotReadBack)
+{
+    // What an element writes when it holds a block and its own irons.
+    Reinforcement block;
+    block.version = 600;
+    block.present = true;
+    block.appendSteelmat(L"", 3000, 1200, 1, 0, 1, somewhere);
+    ExternalIronData elementIrons;
+    elementIrons.version = 600;
+    StringArchive out;
+    ASSERT_TRUE(block.Write(out.archive));
+    ASSERT_TRUE(elementIrons.Write(out.archive));
+
+    StringArchive in(out.Text() + L"END SLABDATE\n");
+    Reinforcement back;
+    EXPECT_FALSE(back.Read(in.archive));
+    EXPECT_FALSE(in.archive.valid);
+    EXPECT_FALSE(back.present);
+    EXPECT_FALSE(back.hasExternalIrons);
+}
+
+TEST(Reinforcement, BarsAndBlockAt600DoNotReadBackInTheReadersOrder)
+{
+    // Bars are written before the block, but the reader looks for the block
+    // first; after the bars it meets the block where it looks for girders
+    // and irons.
+    RodstockData bars;
+    bars.version = 600;
+    Rodstock bar(600);
+    bars.appendRodstock(bar);
+    Reinforcement block;
+    block.version = 600;
+    block.present = true;
+    block.appendSteelmat(L"", 3000, 1200, 1, 0, 1, somewhere);
+    StringArchive out;
+    ASSERT_TRUE(bars.Write(out.archive));
+    ASSERT_TRUE(block.Write(out.archive));
+
+    StringArchive in(out.Text() + L"END SLABDATE\n");
+    Archive& ar = in.archive;
+    std::streampos start = ar.tellg();
+    Reinforcement readBlock;
+    EXPECT_FALSE(readBlock.Read(ar));
+    ar.clear();
+    ar.seekg(start);
+    ar.valid = true;
+
+    RodstockData readBars;
+    EXPECT_TRUE(readBars.Read(ar));
+    EXPECT_EQ(readBars.bars.size(), 1u);
+
+    start = ar.tellg();
+    BracedGirderData readGirders;
+    EXPECT_FALSE(readGirders.Read(ar));
+    ar.clear();
+    ar.seekg(start);
+    ar.valid = true;
+
+    ExternalIronData readIrons;
+    EXPECT_FALSE(readIrons.Read(ar));
+    EXPECT_FALSE(ar.valid);
+}
+
+TEST(Reinforcement, MatsEndAtTheFirstThingThatIsNoMat)
+{
+    StringArchive in(L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n" + firstMat502 + L"\n"
+                     + L"EXTIRON_\n502\n000\nEND\nEND REFORCEM\n");
+    Reinforcement back;
+    EXPECT_TRUE(back.Read(in.archive));
+    ASSERT_EQ(back.mats.size(), 1u);
+    EXPECT_EQ(back.mats[0].firstDimension, 3000);
+    EXPECT_TRUE(back.hasExternalIrons);
+    EXPECT_TRUE(back.externalIrons.irons.empty());
+}
+
+TEST(Reinforcement, BrokenMatEndsTheListWithoutFailingTheBlock)
+{
+    StringArchive in(L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n" + firstMat502 + L"\n"
+                     + L"STEELMAT XX\n"
+                     + L"END REFORCEM\n");
+    Reinforcement back;
+    // Both rewinds put the stream at the start of the broken mat's line,
+    // which the closing test then skips.
+    EXPECT_TRUE(back.Read(in.archive));
+    EXPECT_TRUE(back.present);
+    ASSERT_EQ(back.mats.size(), 1u);
+    EXPECT_FALSE(back.hasExternalIrons);
+}
+
+TEST(Reinforcement, BrokenMatLeavesTheClosingTestOutOfStep)
+{
+    StringArchive in(L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n" + firstMat502 + L"\n"
+                     + L"STEELMAT\n502\nXX\n"
+                     + L"END REFORCEM\n");
+    Reinforcement back;
+    // The closing test skips the STEELMAT line and sees 502.
+    EXPECT_FALSE(back.Read(in.archive));
+    EXPECT_FALSE(in.archive.valid);
+    ASSERT_EQ(back.mats.size(), 1u);
+}
+
+TEST(Reinforcement, ReadAddsToTheMatsItHas)
+{
+    Reinforcement back;
+    back.appendSteelmat(L"old", 1, 1, 0, 0, 1, somewhere);
+    StringArchive in(L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n" + firstMat502 + L"\n"
+                     + L"EXTIRON_\n502\n000\nEND\nEND REFORCEM\n");
+    EXPECT_TRUE(back.Read(in.archive));
+    ASSERT_EQ(back.mats.size(), 2u);
+    EXPECT_EQ(back.mats[0].name, L"old");
+    EXPECT_EQ(back.mats[1].number, 1);
+}
+
+TEST(Reinforcement, WrongTagClearsValidAndReadsNothingMore)
+{
+    StringArchive in(L"REFORCEMX\n600\n");
+    Reinforcement back;
+    EXPECT_FALSE(back.Read(in.archive));
+    EXPECT_FALSE(in.archive.valid);
+    EXPECT_EQ(back.version, 502);
+}
+
+TEST(Reinforcement, MissingEndAfterTheTextLineClearsValid)
+{
+    StringArchive in(L"REFORCEM\n600\n" + untouchedTextLine + L"\nSTEELMAT\n");
+    Reinforcement back;
+    EXPECT_FALSE(back.Read(in.archive));
+    EXPECT_FALSE(in.archive.valid);
+    EXPECT_EQ(back.version, 600);
+    EXPECT_FALSE(back.present);
+}
+
+TEST(Reinforcement, TextFieldsKeepTheirBlanks)
+{
+    StringArchive in(L"REFORCEM\n503\n"
+                     L"AB        " L" " L"CD  " L" " L"EFG     " L" 1\n"
+                     L"END\n"
+                     L"EXTIRON_\n503\n000\nEND\nEND REFORCEM\n");
+    Reinforcement back;
+    EXPECT_TRUE(back.Read(in.archive));
+    EXPECT_EQ(back.version, 503);
+    EXPECT_EQ(back.firstText, L"AB        ");
+    EXPECT_EQ(back.secondText, L"CD  ");
+    EXPECT_EQ(back.thirdText, L"EFG     ");
+    EXPECT_EQ(back.matFlag, 1);
+}
+
+TEST(Reinforcement, WriteOnAFailedStreamRunsToItsEndAndReportsIt)
+{
+    Reinforcement block;
+    block.appendSteelmat(L"", 1, 1, 0, 0, 1, somewhere);
+    StringArchive s;
+    s.archive.setstate(std::ios_base::badbit);
+    EXPECT_FALSE(block.Write(s.archive));
+    EXPECT_TRUE(s.Text().empty());
+}
+
+TEST(Reinforcement, CopyCarriesEveryMemberAndIsDeep)
+{
+    Reinforcement block;
+    block.version = 600;
+    block.present = true;
+    block.hasExternalIrons = true;
+    block.matFlag = 1;
+    block.thirdText = L"t";
+    block.appendSteelmat(L"M", 1, 1, 0, 0, 1, somewhere);
+    ExternalIron iron;
+    block.externalIrons.appendIron(iron);
+    Reinforcement copy(block);
+    copy.Add(Steelmat());
+    copy.mats[0].name = L"changed";
+    copy.externalIrons.irons.clear();
+    EXPECT_TRUE(copy.present);
+    EXPECT_TRUE(copy.hasExternalIrons);
+    EXPECT_EQ(copy.version, 600);
+    EXPECT_EQ(copy.matFlag, 1);
+    EXPECT_EQ(copy.thirdText, L"t");
+    EXPECT_EQ(copy.mats.size(), 2u);
+    EXPECT_EQ(block.mats.size(), 1u);
+    EXPECT_EQ(block.mats[0].name, L"M");
+    EXPECT_EQ(block.externalIrons.irons.size(), 1u);
+
+    Reinforcement assigned;
+    assigned = copy;
+    assigned.Clear();
+    EXPECT_TRUE(assigned.mats.empty());
+    EXPECT_EQ(copy.mats.size(), 2u);
+    EXPECT_TRUE(assigned.present);
+}
+
+} // namespace
+} // namespace ItUnitechnik
