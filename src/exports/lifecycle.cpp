@@ -34,6 +34,15 @@ ITUNITECHNIK_API int32_t startOrder(uint16_t orderValue, int32_t elementNumberAr
         points[i]->z = ItUnitechnik::TruncateToInt32(std::round(placement[3 * i + 2]));
     }
     element.version = order.version;
+    element.contourData.version = order.version;
+    element.cutoutData.version = order.version;
+    element.mountingPartData.version = order.version;
+    element.rodstockData.version = order.version;
+    element.reinforcement.version = order.version;
+    element.reinforcement.externalIrons.version = order.version;
+    element.bracedGirderData.version = order.version;
+    element.externalIronData.version = order.version;
+    element.hasExternalIron = true;
     element.elementMeasure = elementMeasureArg;
     element.elementNumber = static_cast<int16_t>(elementNumberArg);
     element.elementNumberText = std::to_wstring(elementNumberArg);

@@ -90,7 +90,7 @@ ITUNITECHNIK_API void addLayer(uint16_t layerKind, double thicknessMetres, doubl
     layer.layerName = FromHost(layerName);
     layer.firstFactor = firstFactor;
     layer.secondFactor = secondFactor;
-    element->ItUnitechnik::ItCollectionImpl<std::vector<ConcreteLayer>>::Add(layer);
+    element->Add(layer);
     element->layerProductSum += firstFactor * secondFactor;
     // The running total overwrites the second thickness too.
     const int32_t total = ItUnitechnik::WrappingAdd(element->thickness, layer.layerThickness);

@@ -9,7 +9,14 @@
 
 namespace ItUnitechnik {
 
-ElementPart::ElementPart() : ItCollectionImpl<std::vector<ConcreteLayer>>(&concreteLayers)
+ElementPart::ElementPart()
+    : ItCollectionImpl<std::vector<ConcreteLayer>>(&concreteLayers),
+      ItCollectionImpl<std::vector<Contour>>(&contourData.contours),
+      ItCollectionImpl<std::vector<Cutout>>(&cutoutData.cutouts),
+      ItCollectionImpl<std::vector<MountingPart>>(&mountingPartData.parts),
+      ItCollectionImpl<std::vector<Rodstock>>(&rodstockData.bars),
+      ItCollectionImpl<std::vector<BracedGirder>>(&bracedGirderData.girders),
+      ItCollectionImpl<std::vector<ExternalIron>>(&externalIronData.irons)
 {
     codeA1 = L"0";
     codeA2 = L"00";
@@ -21,9 +28,52 @@ ElementPart::ElementPart() : ItCollectionImpl<std::vector<ConcreteLayer>>(&concr
 }
 
 ElementPart::ElementPart(const ElementPart& other)
-    : Serializable(other), ItCollectionImpl<std::vector<ConcreteLayer>>(&concreteLayers)
+    : Serializable(other),
+      ItCollectionImpl<std::vector<ConcreteLayer>>(&concreteLayers),
+      ItCollectionImpl<std::vector<Contour>>(&contourData.contours),
+      ItCollectionImpl<std::vector<Cutout>>(&cutoutData.cutouts),
+      ItCollectionImpl<std::vector<MountingPart>>(&mountingPartData.parts),
+      ItCollectionImpl<std::vector<Rodstock>>(&rodstockData.bars),
+      ItCollectionImpl<std::vector<BracedGirder>>(&bracedGirderData.girders),
+      ItCollectionImpl<std::vector<ExternalIron>>(&externalIronData.irons)
 {
     *this = other;
+}
+
+void ElementPart::Changed()
+{
+    recomputeExtents();
+}
+
+void ElementPart::recomputeExtents()
+{
+    const BoundingBox box = contourData.boundingBox();
+    extentX = static_cast<std::int32_t>(static_cast<std::uint32_t>(box.max.x)
+                                        - static_cast<std::uint32_t>(box.min.x));
+    extentY = static_cast<std::int32_t>(static_cast<std::uint32_t>(box.max.y)
+                                        - static_cast<std::uint32_t>(box.min.y));
+}
+
+void ElementPart::appendContour(Contour contour)
+{
+    contour.version = contourData.version;
+    contour.contourNumber = static_cast<std::int32_t>(contourData.contours.size()) + 1;
+    contourData.contours.push_back(contour);
+    recomputeExtents();
+}
+
+void ElementPart::appendRodstock(Rodstock rodstock)
+{
+    rodstockData.appendRodstock(rodstock);
+    recomputeExtents();
+}
+
+void ElementPart::appendCutout(Cutout cutout)
+{
+    cutout.version = cutoutData.version;
+    cutout.cutoutNumber = static_cast<std::int32_t>(cutoutData.cutouts.size()) + 1;
+    cutoutData.cutouts.push_back(cutout);
+    recomputeExtents();
 }
 
 bool ElementPart::HasLongLines() const
@@ -199,8 +249,60 @@ bool ElementPart::Write(Archive& ar)
 
     ar << Tag("END");
 
+    contourData.Write(ar);
+    cutoutData.Write(ar);
+    mountingPartData.Write(ar);
+
+    // The reinforcement. From 600 each record is written only when it holds
+    // something; below 600 a present reinforcement stands alone.
+    if (version >= 600) {
+        if (!rodstockData.bars.empty()) {
+            rodstockData.Write(ar);
+        }
+        if (!bracedGirderData.girders.empty()) {
+            bracedGirderData.Write(ar);
+        }
+        if (reinforcement.present) {
+            reinforcement.Write(ar);
+        }
+        if (hasExternalIron) {
+            externalIronData.Write(ar);
+        }
+    } else if (reinforcement.present) {
+        reinforcement.Write(ar);
+    } else {
+        rodstockData.Write(ar);
+        bracedGirderData.Write(ar);
+        if (hasExternalIron) {
+            externalIronData.Write(ar);
+        }
+    }
+
     ar << Tag("END SLABDATE");
     return Healthy(ar);
+}
+
+bool ElementPart::ReadOptional(Archive& ar, Serializable& record) const
+{
+    const std::wistream::pos_type start = ar.tellg();
+    record.Read(ar);
+    if (Healthy(ar)) {
+        return true;
+    }
+    if (version < 600) {
+        return false;
+    }
+    Rewind(ar, start);
+    return true;
+}
+
+void ElementPart::Rewind(Archive& ar, std::wistream::pos_type position)
+{
+    // The seek does nothing on a stream that failed by parsing; the state is
+    // cleared all the same.
+    ar.seekg(position);
+    ar.valid = true;
+    ar.clear();
 }
 
 bool ElementPart::Read(Archive& ar)
@@ -319,6 +421,39 @@ bool ElementPart::Read(Archive& ar)
         return false;
     }
     SkipLine(ar);
+
+    // The outline records. From 600 a missing list of openings or of parts
+    // is passed over: seek back, make the stream whole again, go on.
+    if (!contourData.Read(ar) || !Healthy(ar)) {
+        return false;
+    }
+    if (!ReadOptional(ar, cutoutData) || !ReadOptional(ar, mountingPartData)) {
+        return false;
+    }
+
+    // The reader looks for the mats first, unlike the writer.
+    const std::wistream::pos_type beforeReinforcement = ar.tellg();
+    reinforcement.Read(ar);
+    if (!Healthy(ar)) {
+        Rewind(ar, beforeReinforcement);
+        if (!ReadOptional(ar, rodstockData) || !ReadOptional(ar, bracedGirderData)) {
+            return false;
+        }
+        const std::wistream::pos_type beforeIrons = ar.tellg();
+        externalIronData.Read(ar);
+        if (Healthy(ar)) {
+            SkipLine(ar);
+            hasExternalIron = true;
+        } else {
+            // The skip comes before the stream is made whole, so it does
+            // nothing after a failure by parsing.
+            ar.seekg(beforeIrons);
+            SkipLine(ar);
+            ar.valid = true;
+            ar.clear();
+            hasExternalIron = false;
+        }
+    }
 
     if (!Matches(ReadLine(ar), L"END SLABDATE")) {
         ar.valid = false;

@@ -6,8 +6,16 @@
 #include "geometry/point.h"
 #include "records/element/concrete_layer.h"
 #include "records/element/plaster.h"
+#include "records/outline/contour.h"
+#include "records/outline/cutout.h"
+#include "records/outline/mounting_part.h"
+#include "records/reinforcement/braced_girder.h"
+#include "records/reinforcement/external_iron.h"
+#include "records/reinforcement/reinforcement.h"
+#include "records/reinforcement/rodstock.h"
 
 #include <cstdint>
+#include <istream>
 #include <string>
 #include <vector>
 
@@ -15,7 +23,14 @@ namespace ItUnitechnik {
 
 // One precast element, a slab: the record "SLABDATE" ... "END SLABDATE". Its
 // own lines come first, closed by "END"; the nested records follow.
-class ElementPart : public Serializable, public ItCollectionImpl<std::vector<ConcreteLayer>> {
+class ElementPart : public Serializable,
+                    public ItCollectionImpl<std::vector<ConcreteLayer>>,
+                    public ItCollectionImpl<std::vector<Contour>>,
+                    public ItCollectionImpl<std::vector<Cutout>>,
+                    public ItCollectionImpl<std::vector<MountingPart>>,
+                    public ItCollectionImpl<std::vector<Rodstock>>,
+                    public ItCollectionImpl<std::vector<BracedGirder>>,
+                    public ItCollectionImpl<std::vector<ExternalIron>> {
 public:
     ElementPart();
     ElementPart(const ElementPart& other);
@@ -23,6 +38,52 @@ public:
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
+
+    // The collections' operations by element type; Clear is called through
+    // the base of the collection meant.
+    using ItCollectionImpl<std::vector<ConcreteLayer>>::Insert;
+    using ItCollectionImpl<std::vector<Contour>>::Insert;
+    using ItCollectionImpl<std::vector<Cutout>>::Insert;
+    using ItCollectionImpl<std::vector<MountingPart>>::Insert;
+    using ItCollectionImpl<std::vector<Rodstock>>::Insert;
+    using ItCollectionImpl<std::vector<BracedGirder>>::Insert;
+    using ItCollectionImpl<std::vector<ExternalIron>>::Insert;
+    using ItCollectionImpl<std::vector<ConcreteLayer>>::Add;
+    using ItCollectionImpl<std::vector<Contour>>::Add;
+    using ItCollectionImpl<std::vector<Cutout>>::Add;
+    using ItCollectionImpl<std::vector<MountingPart>>::Add;
+    using ItCollectionImpl<std::vector<Rodstock>>::Add;
+    using ItCollectionImpl<std::vector<BracedGirder>>::Add;
+    using ItCollectionImpl<std::vector<ExternalIron>>::Add;
+    using ItCollectionImpl<std::vector<ConcreteLayer>>::RemoveRange;
+    using ItCollectionImpl<std::vector<Contour>>::RemoveRange;
+    using ItCollectionImpl<std::vector<Cutout>>::RemoveRange;
+    using ItCollectionImpl<std::vector<MountingPart>>::RemoveRange;
+    using ItCollectionImpl<std::vector<Rodstock>>::RemoveRange;
+    using ItCollectionImpl<std::vector<BracedGirder>>::RemoveRange;
+    using ItCollectionImpl<std::vector<ExternalIron>>::RemoveRange;
+    using ItCollectionImpl<std::vector<ConcreteLayer>>::Remove;
+    using ItCollectionImpl<std::vector<Contour>>::Remove;
+    using ItCollectionImpl<std::vector<Cutout>>::Remove;
+    using ItCollectionImpl<std::vector<MountingPart>>::Remove;
+    using ItCollectionImpl<std::vector<Rodstock>>::Remove;
+    using ItCollectionImpl<std::vector<BracedGirder>>::Remove;
+    using ItCollectionImpl<std::vector<ExternalIron>>::Remove;
+
+    // Every change through any of the element's collections keeps its size.
+    void Changed() override;
+    // The extents become the width and height of the box around the
+    // contours, in 32-bit unsigned differences: with no contour the inverted
+    // box gives 1 and 1.
+    void recomputeExtents();
+    // Numbers the contour behind those there are, gives it the version of
+    // contourData, appends it with no hook and recomputes the extents.
+    void appendContour(Contour contour);
+    // The same for an opening, on cutoutData.
+    void appendCutout(Cutout cutout);
+    // Hands a loose bar to rodstockData, which numbers it, and recomputes
+    // the extents.
+    void appendRodstock(Rodstock rodstock);
 
     std::int16_t version = 502;     // line 2
     std::int16_t elementNumber = 12; // line A below 600
@@ -87,11 +148,24 @@ public:
     std::wstring slabInfo2;
     std::wstring slabInfo3;
     std::wstring slabInfo4;
+    ContourData contourData;           // behind "END"
+    CutoutData cutoutData;             // behind the contours
+    MountingPartData mountingPartData; // behind the openings
+    RodstockData rodstockData;         // loose bars, behind the outline records
+    Reinforcement reinforcement;       // the mats
+    BracedGirderData bracedGirderData; // loose girders
+    ExternalIronData externalIronData; // external irons, last
+    bool hasExternalIron = false;      // whether externalIronData is written
 
 private:
     // Versions up to 500 carry the short lines A and B; the single value 5
     // counts as above 500 here.
     bool HasLongLines() const;
+    // Reads a nested record that may be absent from 600 on; false when the
+    // element must give up.
+    bool ReadOptional(Archive& ar, Serializable& record) const;
+    // Back to a remembered place, with `valid` set and the state cleared.
+    static void Rewind(Archive& ar, std::wistream::pos_type position);
 };
 
 } // namespace ItUnitechnik
