@@ -8,13 +8,14 @@ namespace ItUnitechnik {
 namespace {
 
 // Back to where an optional part began: the try is forgotten, flag and
-// stream state included. The state is cleared first, since a failed stream
-// does not seek.
+// stream state included.
 void Rewind(Archive& ar, std::streampos at)
 {
-    ar.clear();
+    // The seek does nothing on a stream that failed by parsing: only the
+    // state is cleared then, and reading goes on where it stopped.
     ar.seekg(at);
     ar.valid = true;
+    ar.clear();
 }
 
 } // namespace
