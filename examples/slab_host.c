@@ -2,6 +2,7 @@
  * precast plant. It uses only the public header. */
 #include "itunitechnik.h"
 
+#include <stdint.h>
 #include <stdio.h>
 
 #define TEXT_MAX 512
@@ -50,6 +51,28 @@ int main(int argc, char** argv)
     addLayer(1, 0.06, 2.4, 0.06, text16("C30/37", layerName));
     addLayer(2, 0.14, 2.4, 0.14, text16("C25/30", layerName));
     setDoubleWallGap(0);
+
+    {
+        /* The outline: a closed rectangle of 6.0 m by 2.4 m (the first point
+         * repeated closes it). */
+        static const int32_t outline[] = {0, 0, 6000, 0, 6000, 2400, 0, 2400, 0, 0};
+        /* An opening for a stair, 1.2 m by 0.9 m. */
+        static const int32_t opening[] = {1000, 600, 2200, 600, 2200, 1500, 1000, 1500, 1000, 600};
+        /* A mounted socket box: two values, then one straight piece x0 y0 x1 y1. */
+        static const int32_t socket[] = {1, 0, 4500, 1200, 4600, 1300};
+        /* Two lattice girders: groups of ten values. */
+        static const int32_t girders[] = {8, 80, 300, 400, 60, 0, 1, 10, 1500, 5400,
+                                          8, 80, 300, 2000, 60, 0, 1, 10, 1500, 5400};
+        it_char16 name[TEXT_MAX];
+        ItCutoutBlock stair;
+        stair.cutoutName = text16("Stair opening", name);
+        stair.cutoutValue = 1.08;
+        stair.pointCount = 5;
+        addContour(5, outline);
+        addCutout(&stair, opening);
+        addSet(3, text16("Socket box", name), 6, socket);
+        addSet(5, text16("KT 800", name), 20, girders);
+    }
 
     if (endDocument(text16(file, path)) != 1) {
         fprintf(stderr, "slab_host: the document could not be written\n");
