@@ -9,6 +9,29 @@
 
 namespace ItUnitechnik::Testing {
 
+std::wstring Blanks(std::size_t n)
+{
+    return std::wstring(n, L' ');
+}
+
+std::vector<std::wstring> Lines(const std::wstring& text)
+{
+    std::vector<std::wstring> lines;
+    std::wstring line;
+    for (wchar_t c : text) {
+        if (c == L'\n') {
+            lines.push_back(line);
+            line.clear();
+        } else {
+            line += c;
+        }
+    }
+    if (!line.empty()) {
+        lines.push_back(line + L"<no line end>");
+    }
+    return lines;
+}
+
 std::string ReadFileBytes(const std::string& path)
 {
     std::ifstream in(path, std::ios::binary);

@@ -4,6 +4,7 @@
 
 #include <sstream>
 #include <string>
+#include <vector>
 
 namespace ItUnitechnik::Testing {
 
@@ -19,6 +20,11 @@ public:
     std::wstringbuf buffer;
     Archive archive;
 };
+
+// n blanks.
+std::wstring Blanks(std::size_t n);
+// The lines of a text, each without its line feed; the text must end in one.
+std::vector<std::wstring> Lines(const std::wstring& text);
 
 // Bytes of a file; empty when it cannot be read.
 std::string ReadFileBytes(const std::string& path);

@@ -12,28 +12,9 @@
 namespace ItUnitechnik {
 namespace {
 
+using Testing::Blanks;
+using Testing::Lines;
 using Testing::StringArchive;
-
-std::wstring Blanks(std::size_t n)
-{
-    return std::wstring(n, L' ');
-}
-
-std::vector<std::wstring> Lines(const std::wstring& text)
-{
-    std::vector<std::wstring> lines;
-    std::wstring line;
-    for (wchar_t c : text) {
-        if (c == L'\n') {
-            lines.push_back(line);
-            line.clear();
-        } else {
-            line += c;
-        }
-    }
-    EXPECT_TRUE(line.empty()) << "the text ends without a line end";
-    return lines;
-}
 
 ElementPart AtVersion(std::int16_t version)
 {
