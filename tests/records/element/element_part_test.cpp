@@ -1,11 +1,13 @@
 #include "records/element/element_part.h"
 
 #include "framework/archive.h"
+#include "geometry/line_segment.h"
 #include "records/order/order.h"
 #include "support/test_support.h"
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -479,6 +481,99 @@ TEST(OrderWithElement, AFailingElementIsNotKept)
     Order read;
     EXPECT_FALSE(read.Read(in.archive));
     EXPECT_TRUE(read.elementParts.empty());
+}
+
+} // namespace
+} // namespace ItUnitechnik
+
+namespace ItUnitechnik {
+namespace {
+
+Contour Rectangle(std::int32_t x0, std::int32_t y0, std::int32_t x1, std::int32_t y1)
+{
+    Contour contour(502);
+    contour.Add(GeoData(502, L'S', std::make_unique<LineSegment>(502, Point2d(x0, y0), Point2d(x1, y1))));
+    return contour;
+}
+
+TEST(ElementPartExtents, AnyChangeWithoutAContourGivesOneAndOne)
+{
+    ElementPart element;
+    EXPECT_EQ(element.extentX, 0);
+    element.Add(ConcreteLayer());
+    EXPECT_EQ(element.extentX, 1);
+    EXPECT_EQ(element.extentY, 1);
+}
+
+TEST(ElementPartExtents, TheBoxOfAllContours)
+{
+    ElementPart element;
+    element.appendContour(Rectangle(0, 0, 3000, 1500));
+    EXPECT_EQ(element.extentX, 3000);
+    EXPECT_EQ(element.extentY, 1500);
+    element.appendContour(Rectangle(5000, 0, 6000, 1000));
+    EXPECT_EQ(element.extentX, 6000);
+    EXPECT_EQ(element.extentY, 1500);
+    EXPECT_EQ(element.contourData.contours[1].contourNumber, 2);
+}
+
+TEST(ElementPartExtents, RemovingTheLastContourGivesOneAndOne)
+{
+    ElementPart element;
+    element.appendContour(Rectangle(-100, -50, 100, 50));
+    EXPECT_EQ(element.extentX, 200);
+    EXPECT_EQ(element.extentY, 100);
+    element.Remove(element.contourData.contours.begin());
+    EXPECT_EQ(element.extentX, 1);
+    EXPECT_EQ(element.extentY, 1);
+}
+
+TEST(ElementPartExtents, ACopyChangesOnlyItself)
+{
+    ElementPart element;
+    element.appendContour(Rectangle(0, 0, 3000, 1500));
+    ElementPart copy(element);
+    copy.Add(Rectangle(0, 0, 9000, 100));
+    EXPECT_EQ(copy.extentX, 9000);
+    EXPECT_EQ(copy.contourData.contours.size(), 2u);
+    EXPECT_EQ(element.extentX, 3000);
+    EXPECT_EQ(element.contourData.contours.size(), 1u);
+}
+
+TEST(ElementPartExtents, CutoutsDoNotCount)
+{
+    ElementPart element;
+    element.appendContour(Rectangle(0, 0, 3000, 1500));
+    Cutout cutout(502);
+    cutout.Add(GeoData(502, L'S', std::make_unique<LineSegment>(502, Point2d(0, 0), Point2d(9000, 9000))));
+    element.appendCutout(cutout);
+    EXPECT_EQ(element.extentX, 3000);
+    EXPECT_EQ(element.cutoutData.cutouts[0].cutoutNumber, 1);
+}
+
+TEST(ElementPartRead, From600MissingOutlineListsArePassedOver)
+{
+    // The number text must not be empty: the reader takes it as a token.
+    ElementPart element = AtVersion(600);
+    element.elementNumberText = L"1";
+    StringArchive out;
+    element.Write(out.archive);
+    std::wstring text = out.Text();
+    const std::wstring cutouts = L"CUTOUT__\n502\n00\nEND\n";
+    text.erase(text.find(cutouts), cutouts.size());
+    StringArchive in(text);
+    ElementPart read;
+    EXPECT_TRUE(read.Read(in.archive));
+
+    // Below 600 the same gap fails the element.
+    ElementPart old = AtVersion(502);
+    StringArchive oldOut;
+    old.Write(oldOut.archive);
+    std::wstring oldText = oldOut.Text();
+    oldText.erase(oldText.find(cutouts), cutouts.size());
+    StringArchive oldIn(oldText);
+    ElementPart oldRead;
+    EXPECT_FALSE(oldRead.Read(oldIn.archive));
 }
 
 } // namespace
