@@ -1,3 +1,6 @@
+#ifndef _WIN32
+
+// The POSIX side's own UTF-8 conversion; Windows asks the system for it.
 #include "platform/platform.h"
 
 namespace ItUnitechnik::Platform {
@@ -27,7 +30,6 @@ bool IsLowSurrogate(unsigned long u) { return u >= 0xDC00 && u <= 0xDFFF; }
 
 } // namespace
 
-#ifndef _WIN32
 std::string ToUtf8(const std::wstring& text)
 {
     const unsigned long replacement = 0xFFFD;
@@ -48,6 +50,7 @@ std::string ToUtf8(const std::wstring& text)
     }
     return out;
 }
-#endif
 
 } // namespace ItUnitechnik::Platform
+
+#endif
