@@ -66,6 +66,11 @@ int main(int argc, char** argv)
         command += Quoted(argv[i]) + " ";
     }
     command += Quoted(output.Path());
+#ifdef _WIN32
+    // The command interpreter drops the first and the last quote of a line
+    // that holds more than two: one more pair keeps the program's own.
+    command = "\"" + command + "\"";
+#endif
     if (std::system(command.c_str()) != 0) {
         std::cerr << "the scenario failed: " << command << "\n";
         return 1;
