@@ -4,6 +4,7 @@
 #include <ostream>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 // The field forms of the write side. Each form sets the stream state it names
 // and inserts its value with the stream's ordinary inserter; format flags, fill
@@ -156,5 +157,15 @@ struct TagForm {
 };
 TagForm Tag(const char* text);
 std::wostream& operator<<(std::wostream& os, const TagForm& form);
+
+// The collection write: each element, then the line end behind it.
+template <class Stream, class T>
+void WriteElements(Stream& ar, std::vector<T>& elements)
+{
+    for (T& element : elements) {
+        element.Write(ar);
+        ar << EndLine;
+    }
+}
 
 } // namespace ItUnitechnik

@@ -42,3 +42,28 @@ namespace ItUnitechnik {
 int WideToInt(const std::wstring& text);
 
 } // namespace ItUnitechnik
+
+#include "framework/archive.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace ItUnitechnik {
+
+// The collection read: `count` times a fresh element from `make` reads
+// itself, and only an element after which the stream is healthy is kept. A
+// failed element does not end the loop; once the stream itself has failed no
+// later element can be kept, so the loop stops there.
+template <class T, class Make>
+void ReadElements(Archive& ar, std::int32_t count, Make make, std::vector<T>& into)
+{
+    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
+        T element = make();
+        element.Read(ar);
+        if (Healthy(ar)) {
+            into.push_back(element);
+        }
+    }
+}
+
+} // namespace ItUnitechnik

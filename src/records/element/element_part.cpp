@@ -167,10 +167,7 @@ bool ElementPart::Write(Archive& ar)
 
     if (version >= 502) {
         ar << UInt(2, static_cast<std::uint32_t>(concreteLayers.size())) << EndLine;
-        for (ConcreteLayer& layer : concreteLayers) {
-            layer.Write(ar);
-            ar << EndLine;
-        }
+        WriteElements(ar, concreteLayers);
     }
 
     // Line C.
@@ -359,13 +356,7 @@ bool ElementPart::Read(Archive& ar)
     if (version >= 502) {
         std::int32_t count = 0;
         ar >> count;
-        for (std::int32_t i = 0; i < count; ++i) {
-            ConcreteLayer layer(version);
-            layer.Read(ar);
-            if (Healthy(ar)) {
-                concreteLayers.push_back(layer);
-            }
-        }
+        ReadElements(ar, count, [&] { return ConcreteLayer(version); }, concreteLayers);
         SkipLine(ar);
     }
 

@@ -44,14 +44,8 @@ bool Contour::Read(Archive& ar)
     }
     std::int32_t count = 0;
     ar >> count;
-    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
-        GeoData element(version);
-        // Only the stream decides: an element of unknown kind is kept.
-        element.Read(ar);
-        if (!ar.fail() && ar.valid) {
-            geoData.push_back(element);
-        }
-    }
+    // Only the stream decides: an element of unknown kind is kept.
+    ReadElements(ar, count, [&] { return GeoData(version); }, geoData);
     return Healthy(ar);
 }
 
@@ -67,10 +61,7 @@ bool ContourData::Write(Archive& ar)
     ar << Tag("CONTOUR_");
     ar << UInt(3, version) << EndLine;
     ar << UInt(2, static_cast<std::uint32_t>(contours.size())) << EndLine;
-    for (Contour& contour : contours) {
-        contour.Write(ar);
-        ar << EndLine;
-    }
+    WriteElements(ar, contours);
     ar << Tag("END");
     return Healthy(ar);
 }
@@ -84,13 +75,7 @@ bool ContourData::Read(Archive& ar)
     ar >> version;
     std::int32_t count = 0;
     ar >> count;
-    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
-        Contour contour(version);
-        contour.Read(ar);
-        if (!ar.fail() && ar.valid) {
-            contours.push_back(contour);
-        }
-    }
+    ReadElements(ar, count, [&] { return Contour(version); }, contours);
     // Unlike its sister records, a wrong end tag here does not spoil the
     // rest of the Archive.
     if (!Matches(ReadToken(ar), L"END")) {

@@ -46,13 +46,7 @@ bool Cutout::Read(Archive& ar)
     }
     std::int32_t count = 0;
     ar >> count;
-    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
-        GeoData element(version);
-        element.Read(ar);
-        if (!ar.fail() && ar.valid) {
-            geoData.push_back(element);
-        }
-    }
+    ReadElements(ar, count, [&] { return GeoData(version); }, geoData);
     return Healthy(ar);
 }
 
@@ -68,10 +62,7 @@ bool CutoutData::Write(Archive& ar)
     ar << Tag("CUTOUT__");
     ar << UInt(3, version) << EndLine;
     ar << UInt(2, static_cast<std::uint32_t>(cutouts.size())) << EndLine;
-    for (Cutout& cutout : cutouts) {
-        cutout.Write(ar);
-        ar << EndLine;
-    }
+    WriteElements(ar, cutouts);
     ar << Tag("END");
     return Healthy(ar);
 }
@@ -85,13 +76,7 @@ bool CutoutData::Read(Archive& ar)
     ar >> version;
     std::int32_t count = 0;
     ar >> count;
-    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
-        Cutout cutout(version);
-        cutout.Read(ar);
-        if (!ar.fail() && ar.valid) {
-            cutouts.push_back(cutout);
-        }
-    }
+    ReadElements(ar, count, [&] { return Cutout(version); }, cutouts);
     if (!Matches(ReadToken(ar), L"END")) {
         ar.valid = false;
         return false;

@@ -94,13 +94,7 @@ bool MountingPart::Read(Archive& ar)
     ar >> setValue2 >> partValue1 >> partValue2 >> partWidth >> partHeight;
     std::int32_t count = 0;
     ar >> count;
-    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
-        GeoData element(version);
-        element.Read(ar);
-        if (!ar.fail() && ar.valid) {
-            geoData.push_back(element);
-        }
-    }
+    ReadElements(ar, count, [&] { return GeoData(version); }, geoData);
     // Without elements this takes the rest of the count's line. Behind a line
     // or polygon element it drops the following line whole.
     SkipLine(ar);
@@ -119,10 +113,7 @@ bool MountingPartData::Write(Archive& ar)
     ar << Tag("MOUNPART");
     ar << UInt(3, version) << EndLine;
     ar << UInt(version < 502 ? 2 : 3, static_cast<std::uint32_t>(parts.size())) << EndLine;
-    for (MountingPart& part : parts) {
-        part.Write(ar);
-        ar << EndLine;
-    }
+    WriteElements(ar, parts);
     ar << Tag("END");
     return Healthy(ar);
 }
@@ -136,13 +127,7 @@ bool MountingPartData::Read(Archive& ar)
     ar >> version;
     std::int32_t count = 0;
     ar >> count;
-    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
-        MountingPart part(version);
-        part.Read(ar);
-        if (!ar.fail() && ar.valid) {
-            parts.push_back(part);
-        }
-    }
+    ReadElements(ar, count, [&] { return MountingPart(version); }, parts);
     if (!Matches(ReadToken(ar), L"END")) {
         ar.valid = false;
         return false;

@@ -2,6 +2,7 @@
 
 #include "framework/archive.h"
 #include "framework/field_forms.h"
+#include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
 
@@ -44,13 +45,7 @@ bool AnchorBarData::Read(Archive& ar)
 {
     std::int32_t count = 0;
     ar >> anchorCode >> count;
-    for (std::int32_t i = 0; i < count; ++i) {
-        AnchorBar bar;
-        bar.Read(ar);
-        if (Healthy(ar)) {
-            bars.push_back(bar);
-        }
-    }
+    ReadElements(ar, count, [&] { return AnchorBar(); }, bars);
     return Healthy(ar);
 }
 

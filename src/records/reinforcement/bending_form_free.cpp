@@ -67,13 +67,7 @@ bool BendingFormFree::Read(Archive& ar)
     formCode = ReadToken(ar);
     std::int32_t count = 0;
     ar >> count;
-    for (std::int32_t i = 0; i < count; ++i) {
-        BendingFormPart part;
-        part.Read(ar);
-        if (Healthy(ar)) {
-            parts.push_back(part);
-        }
-    }
+    ReadElements(ar, count, [&] { return BendingFormPart(); }, parts);
     return Healthy(ar);
 }
 

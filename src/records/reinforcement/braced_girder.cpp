@@ -129,10 +129,7 @@ bool BracedGirderData::Write(Archive& ar)
     ar << Tag("BRGIRDER");
     ar << UInt(3, version) << EndLine;
     ar << UInt(3, girders.size()) << EndLine;
-    for (BracedGirder& girder : girders) {
-        girder.Write(ar);
-        ar << EndLine;
-    }
+    WriteElements(ar, girders);
     ar << Tag("END");
     return Healthy(ar);
 }
@@ -146,13 +143,7 @@ bool BracedGirderData::Read(Archive& ar)
     ar >> version;
     std::int32_t count = 0;
     ar >> count;
-    for (std::int32_t i = 0; i < count; ++i) {
-        BracedGirder girder;
-        girder.Read(ar);
-        if (Healthy(ar)) {
-            girders.push_back(girder);
-        }
-    }
+    ReadElements(ar, count, [&] { return BracedGirder(); }, girders);
     if (!Matches(ReadToken(ar), L"END")) {
         ar.valid = false;
         return false;

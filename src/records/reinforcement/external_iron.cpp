@@ -36,10 +36,7 @@ bool ExternalIronData::Write(Archive& ar)
     ar << Tag("EXTIRON_");
     ar << UInt(3, version) << EndLine;
     ar << UInt(3, irons.size()) << EndLine;
-    for (ExternalIron& iron : irons) {
-        iron.Write(ar);
-        ar << EndLine;
-    }
+    WriteElements(ar, irons);
     ar << Tag("END");
     return Healthy(ar);
 }
@@ -53,13 +50,7 @@ bool ExternalIronData::Read(Archive& ar)
     ar >> version;
     std::int32_t count = 0;
     ar >> count;
-    for (std::int32_t i = 0; i < count; ++i) {
-        ExternalIron iron;
-        iron.Read(ar);
-        if (Healthy(ar)) {
-            irons.push_back(iron);
-        }
-    }
+    ReadElements(ar, count, [&] { return ExternalIron(); }, irons);
     if (!Matches(ReadToken(ar), L"END")) {
         ar.valid = false;
         return false;

@@ -73,10 +73,7 @@ bool Reinforcement::Write(Archive& ar)
     ar << EndLine;
 
     ar << Tag("END");
-    for (Steelmat& mat : mats) {
-        mat.Write(ar);
-        ar << EndLine;
-    }
+    WriteElements(ar, mats);
     // Only a single-digit version of 5 or below leaves the irons out.
     if (hasExternalIrons && version > 5) {
         externalIrons.Write(ar);

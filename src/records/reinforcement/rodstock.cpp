@@ -177,10 +177,7 @@ bool RodstockData::Write(Archive& ar)
     ar << Tag("RODSTOCK");
     ar << UInt(3, version) << EndLine;
     ar << UInt(3, bars.size()) << EndLine;
-    for (Rodstock& bar : bars) {
-        bar.Write(ar);
-        ar << EndLine;
-    }
+    WriteElements(ar, bars);
     ar << Tag("END");
     return Healthy(ar);
 }
@@ -194,13 +191,7 @@ bool RodstockData::Read(Archive& ar)
     ar >> version;
     std::int32_t count = 0;
     ar >> count;
-    for (std::int32_t i = 0; i < count; ++i) {
-        Rodstock bar(version);
-        bar.Read(ar);
-        if (Healthy(ar)) {
-            bars.push_back(bar);
-        }
-    }
+    ReadElements(ar, count, [&] { return Rodstock(version); }, bars);
     if (!Matches(ReadToken(ar), L"END")) {
         ar.valid = false;
         return false;

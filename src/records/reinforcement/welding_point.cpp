@@ -2,6 +2,7 @@
 
 #include "framework/archive.h"
 #include "framework/field_forms.h"
+#include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
 
@@ -72,13 +73,7 @@ bool WeldingPointData::Read(Archive& ar)
     ar >> weldFlag;
     std::int32_t count = 0;
     ar >> count;
-    for (std::int32_t i = 0; i < count; ++i) {
-        WeldingPoint point;
-        point.Read(ar);
-        if (Healthy(ar)) {
-            points.push_back(point);
-        }
-    }
+    ReadElements(ar, count, [&] { return WeldingPoint(); }, points);
     return Healthy(ar);
 }
 
