@@ -172,8 +172,20 @@ ITUNITECHNIK_API void addFreeFormRodstock(const ItBarBlock* bar, const ItFreeFor
 ITUNITECHNIK_API int32_t addExtIron(int32_t ironCode, int32_t ironCount, double ironValue,
                                     const it_char16* ironText);
 
-/* The reinforcement summary string. */
+/* The reinforcement summary string: the mounted parts, loose bars, loose
+ * girders, mats and external irons of the current element, in the text of
+ * their records, each line ended by a line feed alone. The result is one of
+ * three kinds: a block the caller owns (the text); an empty string of the
+ * library's own, when there is no current element; or one of the library's
+ * own texts "ERROR MOUNPART", "ERROR RODSTOCK", "ERROR BRGIRDER",
+ * "ERROR REFORCEM" and "ERROR EXTIRON_", when that record could not be
+ * written. Give every result back with freeFullReinforcementString, which
+ * frees a block (CoTaskMemFree on Windows, free elsewhere) and leaves the
+ * library's own texts alone; a Windows host may also free a block itself
+ * with CoTaskMemFree, but then must not free the other two kinds. */
 ITUNITECHNIK_API it_char16* getFullReinforcementString(void);
+/* Gives back any result of getFullReinforcementString; null is ignored. */
+ITUNITECHNIK_API void freeFullReinforcementString(it_char16* text);
 
 #ifdef __cplusplus
 }

@@ -2,6 +2,7 @@
 
 #include "geometry/line_segment.h"
 #include "itunitechnik.h"
+#include "support/test_support.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +14,7 @@ namespace {
 
 const it_char16* C(const std::u16string& text)
 {
-    return reinterpret_cast<const it_char16*>(text.c_str());
+    return Testing::HostText(text.c_str());
 }
 
 class OutlineAddersTest : public ::testing::Test {

@@ -133,4 +133,13 @@ std::string Narrow(const std::wstring& text)
     return out;
 }
 
+std::wstring FromHostText(const it_char16* text)
+{
+    std::wstring out;
+    for (; *text != 0; ++text) {
+        out += static_cast<wchar_t>(*text);
+    }
+    return out;
+}
+
 } // namespace ItUnitechnik::Testing

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/archive.h"
+#include "itunitechnik.h"
 
 #include <sstream>
 #include <string>
@@ -47,6 +48,16 @@ private:
 // A readable account of the first difference of two texts: line and column,
 // and both lines with CR and LF made visible. Empty when they are equal.
 std::string DescribeDifference(const std::string& expected, const std::string& actual);
+
+// A host's text: the same 16-bit units as the library's text type on every
+// platform. Give it a literal or a string that outlives the call.
+inline const it_char16* HostText(const char16_t* text)
+{
+    return reinterpret_cast<const it_char16*>(text);
+}
+
+// A text handed back by the library as a wide string, one character per unit.
+std::wstring FromHostText(const it_char16* text);
 
 // The narrow text as a wide string, one character per byte.
 std::wstring Wide(const std::string& text);
