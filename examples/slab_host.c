@@ -1,5 +1,6 @@
 /* An example host: what a design application does to hand one slab to a
- * precast plant. It uses only the public header. */
+ * precast plant, reinforcement and all, and to show the plant's view of the
+ * reinforcement without a file. It uses only the public header. */
 #include "itunitechnik.h"
 
 #include <stdint.h>
@@ -74,10 +75,65 @@ int main(int argc, char** argv)
         addSet(5, text16("KT 800", name), 20, girders);
     }
 
+    {
+        /* A mat at (100, 100), 5.8 m by 2.2 m, with two bars of its own. */
+        static const int32_t matPosition[3] = {100, 100, 35};
+        static const int32_t barAlong[3] = {150, 150, 0};
+        static const int32_t barAcross[3] = {150, 150, 0};
+        /* A hook: seven segments of length and angle. */
+        static const ItFreeFormSegment hook[7] = {
+            {250, 90, {0, 0}}, {1200, 0, {0, 0}}, {250, -90, {0, 0}}, {400, 45, {0, 0}},
+            {300, 0, {0, 0}},  {150, -45, {0, 0}}, {100, 0, {0, 0}}};
+        it_char16 name[TEXT_MAX];
+        it_char16 extra[TEXT_MAX];
+        ItBarBlock bar = {0};
+
+        addSteelmat(text16("Q188A", name), 5800, 2200, 1, 0, 1, matPosition);
+        /* One bar along the mat and one across it. */
+        addCFSRodstock(1, text16("B500B", name), 5800, 8, 0, barAlong, 35, 0, text16("pos 1", extra),
+                       1, 0, 0, 0, 0);
+        addCFSRodstock(1, text16("B500B", name), 2200, 8, 0, barAcross, 43, 90, text16("pos 2", extra),
+                       1, 0, 0, 0, 0);
+
+        /* A loose straight bar along the opening. */
+        bar.designation = text16("B500B", name);
+        bar.positionX = 900;
+        bar.positionY = 500;
+        bar.positionZ = 40;
+        bar.firstSize = 1400;
+        bar.secondSize = 12;
+        bar.rodKind = 1;
+        addStraightRodstock(&bar);
+
+        /* A loose bent bar: a free form of seven segments. */
+        bar.extraDesignation = text16("hook", extra);
+        bar.positionX = 2400;
+        bar.positionY = 1000;
+        bar.firstSize = 2650;
+        bar.secondSize = 10;
+        bar.segmentCount = 7;
+        bar.bendingCode = 2;
+        addFreeFormRodstock(&bar, hook);
+
+        addExtIron(2, 4, 1.5, text16("Lifting anchor", name));
+    }
+
     if (endDocument(text16(file, path)) != 1) {
         fprintf(stderr, "slab_host: the document could not be written\n");
         return 1;
     }
     printf("slab_host: wrote %s\n", file);
+
+    {
+        /* The reinforcement as the plant sees it, without a file. Every result
+         * goes back to the library, whatever its kind. */
+        it_char16* summary = getFullReinforcementString();
+        size_t k;
+        printf("slab_host: the reinforcement summary:\n");
+        for (k = 0; summary[k] != 0; ++k) {
+            putchar(summary[k] < 0x80 ? (int)summary[k] : '?');
+        }
+        freeFullReinforcementString(summary);
+    }
     return 0;
 }

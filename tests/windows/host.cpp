@@ -415,9 +415,19 @@ int wmain(int argc, wchar_t** argv)
     if (dll.startOrder != nullptr && dll.endDocument != nullptr) {
         // A fresh library holds no order.
         if (dll.getFullReinforcementString != nullptr) {
-            const it_char16* empty = dll.getFullReinforcementString();
+            it_char16* empty = dll.getFullReinforcementString();
             Check(empty != nullptr && empty[0] == 0,
                   "with no order the summary is the empty constant, not a block");
+            if (dll.freeFullReinforcementString != nullptr && empty != nullptr) {
+                // The free export knows the constant and leaves it alone: it is
+                // still there, the same, on the next call.
+                dll.freeFullReinforcementString(empty);
+                dll.freeFullReinforcementString(nullptr);
+                it_char16* again = dll.getFullReinforcementString();
+                Check(again == empty && again[0] == 0,
+                      "freeFullReinforcementString leaves the empty constant alone");
+                dll.freeFullReinforcementString(again);
+            }
         }
         const int32_t position[3] = {1, 2, 3};
         if (dll.addSteelmat != nullptr) {
