@@ -1,0 +1,115 @@
+#include "records/order/lot.h"
+
+#include "framework/archive.h"
+#include "framework/field_forms.h"
+#include "framework/read_idioms.h"
+
+namespace ItUnitechnik {
+
+Lot::Lot()
+    : ItCollectionImpl<std::vector<Contour>>(&contourData.contours),
+      ItCollectionImpl<std::vector<Cutout>>(&cutoutData.cutouts)
+{
+}
+
+Lot::Lot(const Lot& other)
+    : Serializable(other),
+      ItCollectionImpl<std::vector<Contour>>(&contourData.contours),
+      ItCollectionImpl<std::vector<Cutout>>(&cutoutData.cutouts),
+      version(other.version),
+      lotNumber(other.lotNumber),
+      lotText(other.lotText),
+      lotReal1(other.lotReal1),
+      lotCode2(other.lotCode2),
+      lotReal2(other.lotReal2),
+      lotValue1(other.lotValue1),
+      lotValue2(other.lotValue2),
+      lotValue3(other.lotValue3),
+      lotValue4(other.lotValue4),
+      lotText20(other.lotText20),
+      contourData(other.contourData),
+      cutoutData(other.cutoutData)
+{
+}
+
+bool Lot::Write(Archive& ar)
+{
+    ar << Tag("LOT_____");
+    ar << UInt(3, version) << EndLine;
+
+    ar << UInt(2, lotNumber);
+    ar << Blank;
+    if (version < 600) {
+        ar << Text(8, lotText);
+    } else {
+        ar << Text(20, lotText);
+    }
+    ar << Blank;
+    ar << Real(1, 3, lotReal1);
+    ar << Blank;
+    ar << Text(2, lotCode2);
+    ar << Blank;
+    ar << Real(2, 3, lotReal2);
+    ar << Blank;
+    ar << UInt(6, lotValue1);
+    ar << Blank;
+    ar << UInt(6, lotValue2);
+    ar << Blank;
+    ar << UInt(6, lotValue3);
+    ar << Blank;
+    ar << UInt(3, lotValue4);
+    if (version >= 600) {
+        ar << Blank;
+        ar << Text(20, lotText20);
+    }
+    ar << EndLine;
+
+    ar << Tag("END");
+    contourData.Write(ar);
+    cutoutData.Write(ar);
+    ar << Tag("END LOT_____");
+    return true;
+}
+
+bool Lot::Read(Archive& ar)
+{
+    if (!Matches(ReadToken(ar), L"LOT_____")) {
+        ar.valid = false;
+        return false;
+    }
+    ar >> version;
+    ar >> lotNumber;
+    SkipChar(ar);
+    GetText(ar, version < 600 ? 8 : 20, lotText);
+    ar >> lotReal1;
+    SkipChar(ar);
+    GetText(ar, 2, lotCode2);
+    SkipChar(ar);
+    ar >> lotReal2;
+    ar >> lotValue1 >> lotValue2 >> lotValue3 >> lotValue4;
+    if (version >= 600) {
+        // No skip before it: the blank in front is the text's first
+        // character, and the field's last one stays in the stream.
+        GetText(ar, 20, lotText20);
+    }
+    if (!Matches(ReadToken(ar), L"END")) {
+        ar.valid = false;
+        return false;
+    }
+    contourData.Read(ar);
+    if (!Healthy(ar)) {
+        return false;
+    }
+    cutoutData.Read(ar);
+    if (!Healthy(ar)) {
+        return false;
+    }
+    SkipLine(ar);
+    if (!Matches(ReadLine(ar), L"END LOT_____")) {
+        ar.valid = false;
+        return false;
+    }
+    return true;
+}
+
+} // namespace ItUnitechnik
