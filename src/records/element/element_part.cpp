@@ -16,7 +16,8 @@ ElementPart::ElementPart()
       ItCollectionImpl<std::vector<MountingPart>>(&mountingPartData.parts),
       ItCollectionImpl<std::vector<Rodstock>>(&rodstockData.bars),
       ItCollectionImpl<std::vector<BracedGirder>>(&bracedGirderData.girders),
-      ItCollectionImpl<std::vector<ExternalIron>>(&externalIronData.irons)
+      ItCollectionImpl<std::vector<ExternalIron>>(&externalIronData.irons),
+      ItCollectionImpl<std::vector<Layer>>(&layers)
 {
     codeA1 = L"0";
     codeA2 = L"00";
@@ -35,7 +36,8 @@ ElementPart::ElementPart(const ElementPart& other)
       ItCollectionImpl<std::vector<MountingPart>>(&mountingPartData.parts),
       ItCollectionImpl<std::vector<Rodstock>>(&rodstockData.bars),
       ItCollectionImpl<std::vector<BracedGirder>>(&bracedGirderData.girders),
-      ItCollectionImpl<std::vector<ExternalIron>>(&externalIronData.irons)
+      ItCollectionImpl<std::vector<ExternalIron>>(&externalIronData.irons),
+      ItCollectionImpl<std::vector<Layer>>(&layers)
 {
     *this = other;
 }
@@ -246,6 +248,16 @@ bool ElementPart::Write(Archive& ar)
 
     ar << Tag("END");
 
+    if (!layers.empty()) {
+        // The layers stand alone: none of the element's own outline or
+        // reinforcement records is written.
+        for (Layer& layer : layers) {
+            layer.Write(ar);
+        }
+        ar << Tag("END SLABDATE");
+        return Healthy(ar);
+    }
+
     contourData.Write(ar);
     cutoutData.Write(ar);
     mountingPartData.Write(ar);
@@ -413,6 +425,40 @@ bool ElementPart::Read(Archive& ar)
     }
     SkipLine(ar);
 
+    if (LayerFollows(ar)) {
+        // The layers run up to the first record that is no layer, normally
+        // the closing tag; that failure is no failure of the element.
+        for (;;) {
+            const std::wistream::pos_type start = ar.tellg();
+            Layer layer;
+            layer.Read(ar);
+            if (!Healthy(ar)) {
+                Rewind(ar, start);
+                break;
+            }
+            layers.push_back(layer);
+        }
+    } else if (!ReadOutlineAndReinforcement(ar)) {
+        return false;
+    }
+
+    if (!Matches(ReadLine(ar), L"END SLABDATE")) {
+        ar.valid = false;
+        return false;
+    }
+    return Healthy(ar);
+}
+
+bool ElementPart::LayerFollows(Archive& ar)
+{
+    const std::wistream::pos_type start = ar.tellg();
+    const bool found = Matches(ReadToken(ar), L"LAYER___");
+    Rewind(ar, start);
+    return found;
+}
+
+bool ElementPart::ReadOutlineAndReinforcement(Archive& ar)
+{
     // The outline records. From 600 a missing list of openings or of parts
     // is passed over: seek back, make the stream whole again, go on.
     if (!contourData.Read(ar) || !Healthy(ar)) {
@@ -445,12 +491,7 @@ bool ElementPart::Read(Archive& ar)
             hasExternalIron = false;
         }
     }
-
-    if (!Matches(ReadLine(ar), L"END SLABDATE")) {
-        ar.valid = false;
-        return false;
-    }
-    return Healthy(ar);
+    return true;
 }
 
 } // namespace ItUnitechnik

@@ -5,6 +5,7 @@
 #include "geometry/edge.h"
 #include "geometry/point.h"
 #include "records/element/concrete_layer.h"
+#include "records/element/layer.h"
 #include "records/element/plaster.h"
 #include "records/outline/contour.h"
 #include "records/outline/cutout.h"
@@ -30,7 +31,8 @@ class ElementPart : public Serializable,
                     public ItCollectionImpl<std::vector<MountingPart>>,
                     public ItCollectionImpl<std::vector<Rodstock>>,
                     public ItCollectionImpl<std::vector<BracedGirder>>,
-                    public ItCollectionImpl<std::vector<ExternalIron>> {
+                    public ItCollectionImpl<std::vector<ExternalIron>>,
+                    public ItCollectionImpl<std::vector<Layer>> {
 public:
     ElementPart();
     ElementPart(const ElementPart& other);
@@ -48,6 +50,7 @@ public:
     using ItCollectionImpl<std::vector<Rodstock>>::Insert;
     using ItCollectionImpl<std::vector<BracedGirder>>::Insert;
     using ItCollectionImpl<std::vector<ExternalIron>>::Insert;
+    using ItCollectionImpl<std::vector<Layer>>::Insert;
     using ItCollectionImpl<std::vector<ConcreteLayer>>::Add;
     using ItCollectionImpl<std::vector<Contour>>::Add;
     using ItCollectionImpl<std::vector<Cutout>>::Add;
@@ -55,6 +58,7 @@ public:
     using ItCollectionImpl<std::vector<Rodstock>>::Add;
     using ItCollectionImpl<std::vector<BracedGirder>>::Add;
     using ItCollectionImpl<std::vector<ExternalIron>>::Add;
+    using ItCollectionImpl<std::vector<Layer>>::Add;
     using ItCollectionImpl<std::vector<ConcreteLayer>>::RemoveRange;
     using ItCollectionImpl<std::vector<Contour>>::RemoveRange;
     using ItCollectionImpl<std::vector<Cutout>>::RemoveRange;
@@ -62,6 +66,7 @@ public:
     using ItCollectionImpl<std::vector<Rodstock>>::RemoveRange;
     using ItCollectionImpl<std::vector<BracedGirder>>::RemoveRange;
     using ItCollectionImpl<std::vector<ExternalIron>>::RemoveRange;
+    using ItCollectionImpl<std::vector<Layer>>::RemoveRange;
     using ItCollectionImpl<std::vector<ConcreteLayer>>::Remove;
     using ItCollectionImpl<std::vector<Contour>>::Remove;
     using ItCollectionImpl<std::vector<Cutout>>::Remove;
@@ -69,6 +74,7 @@ public:
     using ItCollectionImpl<std::vector<Rodstock>>::Remove;
     using ItCollectionImpl<std::vector<BracedGirder>>::Remove;
     using ItCollectionImpl<std::vector<ExternalIron>>::Remove;
+    using ItCollectionImpl<std::vector<Layer>>::Remove;
 
     // Every change through any of the element's collections keeps its size.
     void Changed() override;
@@ -156,6 +162,7 @@ public:
     BracedGirderData bracedGirderData; // loose girders
     ExternalIronData externalIronData; // external irons, last
     bool hasExternalIron = false;      // whether externalIronData is written
+    std::vector<Layer> layers;         // when there are any, the only records behind "END"
 
 private:
     // Versions up to 500 carry the short lines A and B; the single value 5
@@ -166,6 +173,10 @@ private:
     bool ReadOptional(Archive& ar, Serializable& record) const;
     // Back to a remembered place, with `valid` set and the state cleared.
     static void Rewind(Archive& ar, std::wistream::pos_type position);
+    // Whether the next token is "LAYER___"; the stream is left where it was.
+    static bool LayerFollows(Archive& ar);
+    // Outline and reinforcement records; false when the element must give up.
+    bool ReadOutlineAndReinforcement(Archive& ar);
 };
 
 } // namespace ItUnitechnik
