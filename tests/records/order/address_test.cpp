@@ -1,6 +1,7 @@
 #include "records/order/address.h"
 
 #include "framework/archive.h"
+#include "framework/read_idioms.h"
 #include "support/test_support.h"
 
 #include <gtest/gtest.h>
@@ -46,6 +47,26 @@ TEST(AddressRead, TheThirdTextKeepsItsTrailingBlanks)
     EXPECT_EQ(back.addressText3, L"AB      ");
     EXPECT_EQ(back.addressText3.size(), 8u);
     EXPECT_EQ(back.addressText1, std::wstring(25, L' '));
+}
+
+TEST(AddressRead, FourWholeLinesWithTheirBlanksAndNoCarriageReturn)
+{
+    StringArchive in(L"Precast Works Ltd        \nQuarry Road 12\r\nD-12345 \n\nnext\n");
+    Address address;
+    EXPECT_TRUE(address.Read(in.archive));
+    EXPECT_EQ(address.addressText1, L"Precast Works Ltd        ");
+    EXPECT_EQ(address.addressText2, L"Quarry Road 12");
+    EXPECT_EQ(address.addressText3, L"D-12345 ");
+    EXPECT_EQ(address.addressText4, L"");
+    EXPECT_EQ(ReadLine(in.archive), L"next");
+}
+
+TEST(AddressRead, FailsWhenTheLinesRunOut)
+{
+    StringArchive in(L"one\ntwo\nthree\n");
+    Address address;
+    EXPECT_FALSE(address.Read(in.archive));
+    EXPECT_EQ(address.addressText3, L"three");
 }
 
 } // namespace

@@ -302,5 +302,90 @@ TEST(OrderRead, APrematureEndFails)
     EXPECT_EQ(read.orderNumber, L"ORD-1");
 }
 
+TEST(OrderRead, AFileOfVersion600WrittenByHand)
+{
+    StringArchive in(L"HEADER__\n"
+                     L"600\n"
+                     L"ORD-600" + Blanks(13) + L" ABCDE WXYZ       R8 07 XY\n"
+                     L"Tower A" + Blanks(13) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n" + L"P4\n"
+                     L"Precast Works" + Blanks(12) + L"\n" + Blanks(25) + L"\n" + L"D-12345 \n" + Blanks(25) + L"\n"
+                     + Blanks(25) + L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + L"Site" + Blanks(21) + L"\n"
+                     L"31.12.2023 behind  \n"
+                     L"forty" + Blanks(35) + L"\n"
+                     L"0 00 000\n"
+                     L"END\n"
+                     L"END HEADER__\n");
+    Order read;
+    // With no element the closing tag test meets the rest of the "END" line.
+    EXPECT_FALSE(read.Read(in.archive));
+    EXPECT_FALSE(in.archive.valid);
+    EXPECT_FALSE(in.archive.fail());
+    EXPECT_EQ(read.version, 600);
+    EXPECT_EQ(read.date.version, 600);
+    EXPECT_EQ(read.orderNumber, L"ORD-600");
+    EXPECT_EQ(read.orderText5, L"ABCDE");
+    EXPECT_EQ(read.orderText4, L"WXYZ");
+    EXPECT_EQ(read.orderText8, L"      R8");
+    EXPECT_EQ(read.orderValue2, 7);
+    EXPECT_EQ(read.orderText2, L"XY");
+    EXPECT_EQ(read.legacyText2, L"00");
+    EXPECT_EQ(read.legacyText40, Blanks(40));
+    EXPECT_EQ(read.project.projectText1, L"Tower A" + Blanks(13));
+    EXPECT_EQ(read.project.projectText4, L"P4");
+    EXPECT_EQ(read.firstAddress.addressText1, L"Precast Works" + Blanks(12));
+    EXPECT_EQ(read.firstAddress.addressText3, L"D-12345 ");
+    EXPECT_EQ(read.secondAddress.addressText4, L"Site" + Blanks(21));
+    EXPECT_EQ(read.date.day, 31);
+    EXPECT_EQ(read.date.month, 12);
+    EXPECT_EQ(read.date.year, 2023);
+    // What stands behind the date, trimmed; the line below it is passed over.
+    EXPECT_EQ(read.orderText40, L"behind");
+    EXPECT_TRUE(read.elementParts.empty());
+}
+
+TEST(OrderRead, AFileOfVersion501WithATwoDigitYear)
+{
+    StringArchive in(L"HEADER__\n"
+                     L"501\n"
+                     L"A1" + Blanks(6) + L"   " + Blanks(5) + L" " + Blanks(4) + L" " + Blanks(8) + L" 00 Q1 "
+                     + Blanks(34) + L"legacy\n"
+                     + Blanks(20) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n"
+                     + Blanks(25) + L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + Blanks(25) + L"\n"
+                     + Blanks(25) + L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + Blanks(25) + L"\n"
+                     L"07.03.24\n"
+                     L"0 00 000\n"
+                     L"END\n");
+    Order read;
+    EXPECT_FALSE(read.Read(in.archive));
+    EXPECT_EQ(read.version, 501);
+    EXPECT_EQ(read.orderNumber, L"A1");
+    EXPECT_EQ(read.orderText5, Blanks(5));
+    EXPECT_EQ(read.orderText8, Blanks(8));
+    EXPECT_EQ(read.orderValue2, 0);
+    EXPECT_EQ(read.legacyText2, L"Q1");
+    EXPECT_EQ(read.legacyText40, Blanks(34) + L"legacy");
+    EXPECT_EQ(read.date.year, 24);
+}
+
+TEST(OrderRead, AnElementCountThatIsNoNumberFailsTheStream)
+{
+    StringArchive in(L"HEADER__\n"
+                     L"502\n"
+                     L"A1" + Blanks(6) + L"   " + Blanks(5) + L" " + Blanks(4) + L" " + Blanks(8) + L" 00 00 "
+                     + Blanks(40) + L"\n"
+                     + Blanks(20) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n"
+                     + Blanks(25) + L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + Blanks(25) + L"\n"
+                     + Blanks(25) + L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + Blanks(25) + L"\n"
+                     L"07.03.2024\n"
+                     L"0 xx 000\n"
+                     L"END\n"
+                     L"END HEADER__\n");
+    Order read;
+    EXPECT_FALSE(read.Read(in.archive));
+    EXPECT_TRUE(in.archive.fail());
+    EXPECT_FALSE(in.archive.valid);
+    EXPECT_TRUE(read.elementParts.empty());
+}
+
 } // namespace
 } // namespace ItUnitechnik
