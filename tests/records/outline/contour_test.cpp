@@ -374,5 +374,90 @@ TEST(ContourData, ReadsBackWhatItWrote)
     }
 }
 
+TEST(ContourData, ReadsAnArcInTheUnsignedForm)
+{
+    StringArchive s(L"CONTOUR_\n502\n01\n01 00 02\n"
+                    L"B 00100 00200 00050 045 090 010\n"
+                    L"S 00000 00000 00010 00010 0000\n"
+                    L"END\n");
+    ContourData data;
+    EXPECT_TRUE(data.Read(s.archive));
+    ASSERT_EQ(data.contours.size(), 1u);
+    ASSERT_EQ(data.contours[0].geoData.size(), 2u);
+    EXPECT_EQ(data.contours[0].geoData[0].elementKind, L'B');
+    const auto* arc = dynamic_cast<const Arc*>(data.contours[0].geoData[0].curve);
+    ASSERT_NE(arc, nullptr);
+    EXPECT_EQ(arc->version, 502);
+    EXPECT_EQ(arc->centre, Point2d(100, 200));
+    EXPECT_EQ(arc->radius, 50);
+    EXPECT_EQ(arc->startAngle, 45);
+    EXPECT_EQ(arc->endAngle, 90);
+    // The last field is taken in hexadecimal.
+    EXPECT_EQ(arc->flags, 16);
+    const auto* line = dynamic_cast<const LineSegment*>(data.contours[0].geoData[1].curve);
+    ASSERT_NE(line, nullptr);
+    EXPECT_EQ(line->end, Point2d(10, 10));
+}
+
+TEST(ContourData, ACountOfContoursTooHighTakesTheEndForANumberAndFails)
+{
+    StringArchive s(L"CONTOUR_\n502\n02\n01 00 00\n\nEND\n");
+    ContourData data;
+    EXPECT_FALSE(data.Read(s.archive));
+    EXPECT_TRUE(s.archive.fail());
+    EXPECT_EQ(data.contours.size(), 1u);
+}
+
+TEST(ContourData, ACountOfElementsTooHighReadsTheEndAsElementsOfUnknownKind)
+{
+    // "E" and "N" become elements without a curve, and "D" is no end tag.
+    StringArchive s(L"CONTOUR_\n502\n01\n01 00 03\nS 00000 00000 00010 00010 0000\nEND\n");
+    ContourData data;
+    EXPECT_FALSE(data.Read(s.archive));
+    EXPECT_TRUE(s.archive.valid);
+    EXPECT_FALSE(s.archive.fail());
+    ASSERT_EQ(data.contours.size(), 1u);
+    const Contour& contour = data.contours[0];
+    ASSERT_EQ(contour.geoData.size(), 3u);
+    EXPECT_NE(contour.geoData[0].curve, nullptr);
+    EXPECT_EQ(contour.geoData[1].elementKind, L'E');
+    EXPECT_EQ(contour.geoData[1].curve, nullptr);
+    EXPECT_EQ(contour.geoData[2].elementKind, L'N');
+    EXPECT_EQ(contour.geoData[2].curve, nullptr);
+}
+
+TEST(ContourData, ACountOfElementsTooLowLeavesAnElementWhereTheEndShouldBe)
+{
+    StringArchive s(L"CONTOUR_\n502\n01\n01 00 01\n"
+                    L"S 00000 00000 00010 00010 0000\n"
+                    L"S 00010 00010 00020 00020 0000\n"
+                    L"END\n");
+    ContourData data;
+    EXPECT_FALSE(data.Read(s.archive));
+    EXPECT_TRUE(s.archive.valid);
+    ASSERT_EQ(data.contours.size(), 1u);
+    EXPECT_EQ(data.contours[0].geoData.size(), 1u);
+}
+
+TEST(ContourData, ACountThatIsNoNumberFailsTheStream)
+{
+    StringArchive s(L"CONTOUR_\n502\nxx\nEND\n");
+    ContourData data;
+    EXPECT_FALSE(data.Read(s.archive));
+    EXPECT_TRUE(s.archive.fail());
+    EXPECT_TRUE(data.contours.empty());
+}
+
+TEST(ContourData, ALowerCaseKindIsUnknown)
+{
+    StringArchive s(L"CONTOUR_\n600\n01\n01 00 01\ns\nEND\n");
+    ContourData data;
+    EXPECT_TRUE(data.Read(s.archive));
+    ASSERT_EQ(data.contours.size(), 1u);
+    ASSERT_EQ(data.contours[0].geoData.size(), 1u);
+    EXPECT_EQ(data.contours[0].geoData[0].elementKind, L's');
+    EXPECT_EQ(data.contours[0].geoData[0].curve, nullptr);
+}
+
 } // namespace
 } // namespace ItUnitechnik

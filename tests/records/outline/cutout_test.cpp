@@ -3,6 +3,8 @@
 #include "framework/read_idioms.h"
 #include "geometry/circle.h"
 #include "geometry/line_segment.h"
+#include "geometry/arc.h"
+#include "geometry/polygon.h"
 #include "support/test_support.h"
 
 #include <gtest/gtest.h>
@@ -237,6 +239,75 @@ TEST(CutoutData, ReadsBackWhatItWrote)
         ASSERT_TRUE(read.Write(again.archive));
         EXPECT_EQ(again.Text(), out.Text());
     }
+}
+
+TEST(CutoutData, ReadsCircleArcAndPolygonFromVersion600)
+{
+    StringArchive s(L"CUTOUT__\n600\n01\n"
+                    L"01 00.500 Rund" + Spaces(36) + L" 03\n"
+                    L"K +00100 +00200 00050 00FF\n"
+                    L"B -00100 +00200 00050 000 180 255\n"
+                    L"P 3 +00000 +00000 +01000 +00000 0001 +01000 +01000 000A\n"
+                    L"END\n"
+                    L"NEXT");
+    CutoutData data;
+    EXPECT_TRUE(data.Read(s.archive));
+    ASSERT_EQ(data.cutouts.size(), 1u);
+    const Cutout& cutout = data.cutouts[0];
+    EXPECT_EQ(cutout.cutoutValue, 0.5);
+    EXPECT_EQ(cutout.cutoutName, L"Rund" + Spaces(36));
+    ASSERT_EQ(cutout.geoData.size(), 3u);
+    const auto* circle = dynamic_cast<const Circle*>(cutout.geoData[0].curve);
+    ASSERT_NE(circle, nullptr);
+    EXPECT_EQ(dynamic_cast<const Arc*>(cutout.geoData[0].curve), nullptr);
+    EXPECT_EQ(circle->centre, Point2d(100, 200));
+    EXPECT_EQ(circle->radius, 50);
+    EXPECT_EQ(circle->flags, 255);
+    const auto* arc = dynamic_cast<const Arc*>(cutout.geoData[1].curve);
+    ASSERT_NE(arc, nullptr);
+    EXPECT_EQ(arc->centre, Point2d(-100, 200));
+    EXPECT_EQ(arc->startAngle, 0);
+    EXPECT_EQ(arc->endAngle, 180);
+    EXPECT_EQ(arc->flags, 0x255);
+    const auto* polygon = dynamic_cast<const Polygon*>(cutout.geoData[2].curve);
+    ASSERT_NE(polygon, nullptr);
+    EXPECT_EQ(polygon->version, 600);
+    EXPECT_EQ(polygon->points,
+              (std::vector<Point2d>{Point2d(0, 0), Point2d(1000, 0), Point2d(1000, 1000)}));
+    EXPECT_EQ(polygon->segmentFlags, (std::vector<int>{1, 10}));
+    EXPECT_EQ(ReadToken(s.archive), L"NEXT");
+}
+
+TEST(CutoutData, AnElementOfUnknownKindIsKeptAndTheRestOfItsLineGoesToTheNext)
+{
+    StringArchive s(L"CUTOUT__\n502\n01\n01 00.000 02\nZ S 00000 00000 00010 00010 0000\nEND\n");
+    CutoutData data;
+    EXPECT_TRUE(data.Read(s.archive));
+    ASSERT_EQ(data.cutouts.size(), 1u);
+    ASSERT_EQ(data.cutouts[0].geoData.size(), 2u);
+    EXPECT_EQ(data.cutouts[0].geoData[0].elementKind, L'Z');
+    EXPECT_EQ(data.cutouts[0].geoData[0].curve, nullptr);
+    EXPECT_NE(dynamic_cast<const LineSegment*>(data.cutouts[0].geoData[1].curve), nullptr);
+}
+
+TEST(CutoutData, ACountOfCutoutsTooHighFailsTheStream)
+{
+    StringArchive s(L"CUTOUT__\n502\n03\n01 00.000 00\n\n02 01.000 00\n\nEND\n");
+    CutoutData data;
+    EXPECT_FALSE(data.Read(s.archive));
+    EXPECT_TRUE(s.archive.fail());
+    ASSERT_EQ(data.cutouts.size(), 2u);
+    EXPECT_EQ(data.cutouts[1].cutoutNumber, 2);
+    EXPECT_EQ(data.cutouts[1].cutoutValue, 1.0);
+}
+
+TEST(CutoutData, ACountOfCutoutsTooLowClearsValidAtTheEnd)
+{
+    StringArchive s(L"CUTOUT__\n502\n01\n01 00.000 00\n\n02 01.000 00\n\nEND\n");
+    CutoutData data;
+    EXPECT_FALSE(data.Read(s.archive));
+    EXPECT_FALSE(s.archive.valid);
+    EXPECT_EQ(data.cutouts.size(), 1u);
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "framework/read_idioms.h"
 #include "geometry/circle.h"
 #include "geometry/line_segment.h"
+#include "geometry/arc.h"
+#include "geometry/polygon.h"
 #include "support/test_support.h"
 
 #include <gtest/gtest.h>
@@ -431,6 +433,99 @@ TEST(MountingPart, CopyAndAssignmentKeepTheirOwnElements)
     data.Add(original);
     MountingPartData dataCopy(data);
     dataCopy.Clear();
+    EXPECT_EQ(data.parts.size(), 1u);
+}
+
+TEST(MountingPartData, ReadsAPolygonAndAnArcFromVersion600)
+{
+    // The arc stops before its line end, so the part's own skip takes no
+    // more than that.
+    StringArchive in(L"MOUNPART\n600\n001\n"
+                     L"001 A07 000 CODE       Name" + Spaces(36) + L"\n"
+                     + Spaces(20) + L"\n"
+                     + Spaces(20) + L"\n"
+                     L"02.000 003 -00120 +00300 +00040 0009 008 01000 02000 02\n"
+                     L"P 2 +00000 +00000 +01000 +02000 000A\n"
+                     L"B +00500 +00500 00250 000 090 001\n"
+                     L"END\n"
+                     L"NEXT");
+    MountingPartData data;
+    EXPECT_TRUE(data.Read(in.archive));
+    EXPECT_EQ(data.version, 600);
+    ASSERT_EQ(data.parts.size(), 1u);
+    const MountingPart& part = data.parts[0];
+    EXPECT_EQ(part.version, 600);
+    EXPECT_EQ(part.partNumber, 1);
+    EXPECT_EQ(part.partKind, L'A');
+    EXPECT_EQ(part.partSubCode, 7);
+    EXPECT_EQ(part.partCode, L"CODE      ");
+    EXPECT_EQ(part.partName, L"Name" + Spaces(36));
+    EXPECT_EQ(part.partText1, Spaces(20));
+    EXPECT_EQ(part.partText2, Spaces(20));
+    EXPECT_EQ(part.partArea, 2.0);
+    EXPECT_EQ(part.setValue1, 3);
+    EXPECT_EQ(part.position, Point2d(-120, 300));
+    EXPECT_EQ(part.setValue2, 40);
+    EXPECT_EQ(part.partValue1, 9);
+    EXPECT_EQ(part.partValue2, 8);
+    EXPECT_EQ(part.partWidth, 1000u);
+    EXPECT_EQ(part.partHeight, 2000u);
+    ASSERT_EQ(part.geoData.size(), 2u);
+    const auto* polygon = dynamic_cast<const Polygon*>(part.geoData[0].curve);
+    ASSERT_NE(polygon, nullptr);
+    EXPECT_EQ(polygon->points, (std::vector<Point2d>{Point2d(0, 0), Point2d(1000, 2000)}));
+    EXPECT_EQ(polygon->segmentFlags, (std::vector<int>{10}));
+    const auto* arc = dynamic_cast<const Arc*>(part.geoData[1].curve);
+    ASSERT_NE(arc, nullptr);
+    EXPECT_EQ(arc->version, 600);
+    EXPECT_EQ(arc->centre, Point2d(500, 500));
+    EXPECT_EQ(arc->radius, 250);
+    EXPECT_EQ(arc->endAngle, 90);
+    EXPECT_EQ(arc->flags, 1);
+    EXPECT_EQ(ReadToken(in.archive), L"NEXT");
+}
+
+TEST(MountingPartData, VersionBelow502HasTwoDigitCounts)
+{
+    StringArchive in(L"MOUNPART\n500\n01\n"
+                     L"07 001 000 " + Spaces(10) + L" " + Spaces(40) + L"\n"
+                     L"00.000 000 000 0000 000 00000 00000 00\n"
+                     L"\n"
+                     L"END\n");
+    MountingPartData data;
+    EXPECT_TRUE(data.Read(in.archive));
+    ASSERT_EQ(data.parts.size(), 1u);
+    EXPECT_EQ(data.parts[0].version, 500);
+    EXPECT_EQ(data.parts[0].partNumber, 7);
+    EXPECT_EQ(data.parts[0].partKind, L'0');
+    EXPECT_EQ(data.parts[0].partSubCode, 1);
+}
+
+TEST(MountingPartData, AnElementOfUnknownKindIsKeptWithoutACurve)
+{
+    StringArchive in(L"MOUNPART\n502\n001\n"
+                     L"001 000 000 " + Spaces(10) + L" Name\n"
+                     L"00.000 000 000 0000 000 00000 00000 01\n"
+                     L"X\n"
+                     L"END\n");
+    MountingPartData data;
+    EXPECT_TRUE(data.Read(in.archive));
+    ASSERT_EQ(data.parts.size(), 1u);
+    ASSERT_EQ(data.parts[0].geoData.size(), 1u);
+    EXPECT_EQ(data.parts[0].geoData[0].elementKind, L'X');
+    EXPECT_EQ(data.parts[0].geoData[0].curve, nullptr);
+}
+
+TEST(MountingPartData, ACountOfPartsTooHighFailsTheStream)
+{
+    StringArchive in(L"MOUNPART\n502\n002\n"
+                     L"001 000 000 " + Spaces(10) + L" Name\n"
+                     L"00.000 000 000 0000 000 00000 00000 00\n"
+                     L"\n"
+                     L"END\n");
+    MountingPartData data;
+    EXPECT_FALSE(data.Read(in.archive));
+    EXPECT_TRUE(in.archive.fail());
     EXPECT_EQ(data.parts.size(), 1u);
 }
 
