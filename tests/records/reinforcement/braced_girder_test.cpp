@@ -1,5 +1,6 @@
 #include "records/reinforcement/braced_girder.h"
 
+#include "framework/read_idioms.h"
 #include "support/test_support.h"
 
 #include <gtest/gtest.h>
@@ -275,6 +276,81 @@ TEST(BracedGirder, CopyIsDeepAndViewsItsOwnLists)
     assigned.ItCollectionImpl<AnchorBarData>::Clear();
     EXPECT_TRUE(assigned.anchorBars.bars.empty());
     EXPECT_EQ(copy.anchorBars.bars.size(), 1u);
+}
+
+TEST(BracedGirderData, ReadsAGirderWithWeldingPointsAndAnchorBarsFromAFile)
+{
+    StringArchive s(L"BRGIRDER\n600\n001\n"
+                    L"001 ABC 00012 GT 8-20    04000 -00100 +00200 +00050 -090 1\n"
+                    L"001 002 003 01.500 08 000 00250 101\n"
+                    L"001 022 333 W 1 001\n"
+                    L"00001 002 00003 004 00005 006 00007 008 00009 010 00011 012 00013 014 00015 016\n"
+                    L"007 001\n"
+                    L"002 003 00350 00400 \n"
+                    L"END\n"
+                    L"NEXT");
+    BracedGirderData data;
+    EXPECT_TRUE(data.Read(s.archive));
+    EXPECT_EQ(data.version, 600);
+    ASSERT_EQ(data.girders.size(), 1u);
+    const BracedGirder& girder = data.girders[0];
+    EXPECT_EQ(girder.number, 1);
+    EXPECT_EQ(girder.code, L"ABC");
+    EXPECT_EQ(girder.typeNumber, 12);
+    EXPECT_EQ(girder.designation, L"GT 8-20   ");
+    EXPECT_EQ(girder.firstSize, 4000);
+    EXPECT_EQ(girder.position, Point2d(-100, 200));
+    EXPECT_EQ(girder.positionZ, 50);
+    EXPECT_EQ(girder.rotation, -90);
+    EXPECT_TRUE(girder.mountFlag);
+    EXPECT_EQ(girder.firstCode, L"001");
+    EXPECT_EQ(girder.secondCode, L"002");
+    EXPECT_EQ(girder.auxNumber, 3);
+    EXPECT_EQ(girder.scaledValue, 1.5);
+    EXPECT_EQ(girder.shortNumber, 8);
+    EXPECT_EQ(girder.thirdCode, L"000");
+    EXPECT_EQ(girder.lastNumber, 250);
+    EXPECT_TRUE(girder.hasWeldingPoints);
+    EXPECT_TRUE(girder.hasAnchorBars);
+    EXPECT_EQ(girder.weldingPoints.weldValueA, 1);
+    EXPECT_EQ(girder.weldingPoints.weldValueB, 22);
+    EXPECT_EQ(girder.weldingPoints.weldValueC, 333);
+    EXPECT_EQ(girder.weldingPoints.weldLetter, L'W');
+    EXPECT_TRUE(girder.weldingPoints.weldFlag);
+    ASSERT_EQ(girder.weldingPoints.points.size(), 1u);
+    EXPECT_EQ(girder.weldingPoints.points[0].intersections[0].offset, 1);
+    EXPECT_EQ(girder.anchorBars.anchorCode, 7);
+    ASSERT_EQ(girder.anchorBars.bars.size(), 1u);
+    EXPECT_EQ(girder.anchorBars.bars[0].firstType, 2);
+    EXPECT_EQ(girder.anchorBars.bars[0].secondType, 3);
+    EXPECT_EQ(girder.anchorBars.bars[0].firstLength, 350);
+    EXPECT_EQ(girder.anchorBars.bars[0].secondLength, 400);
+    EXPECT_EQ(ReadToken(s.archive), L"NEXT");
+}
+
+TEST(BracedGirderData, TheMiddleFlagCharacterIsDropped)
+{
+    StringArchive s(L"BRGIRDER\n502\n001\n"
+                    L"001 000 00012 GT 8-20    04000 +00100 +00200 +00050 +090 0\n"
+                    L"000 000 003 01.500 08 000 00250 090\n"
+                    L"END\n");
+    BracedGirderData data;
+    EXPECT_TRUE(data.Read(s.archive));
+    ASSERT_EQ(data.girders.size(), 1u);
+    EXPECT_FALSE(data.girders[0].hasWeldingPoints);
+    EXPECT_FALSE(data.girders[0].hasAnchorBars);
+}
+
+TEST(BracedGirderData, ACountOfGirdersTooHighFailsTheStream)
+{
+    StringArchive s(L"BRGIRDER\n502\n002\n"
+                    L"001 000 00012 GT 8-20    04000 +00100 +00200 +00050 +090 0\n"
+                    L"000 000 003 01.500 08 000 00250 000\n"
+                    L"END\n");
+    BracedGirderData data;
+    EXPECT_FALSE(data.Read(s.archive));
+    EXPECT_TRUE(s.archive.fail());
+    EXPECT_EQ(data.girders.size(), 1u);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "records/reinforcement/braced_girder.h"
 #include "records/reinforcement/rodstock.h"
+#include "framework/read_idioms.h"
 #include "support/test_support.h"
 
 #include <gtest/gtest.h>
@@ -428,6 +429,41 @@ TEST(Reinforcement, CopyCarriesEveryMemberAndIsDeep)
     EXPECT_TRUE(assigned.mats.empty());
     EXPECT_EQ(copy.mats.size(), 2u);
     EXPECT_TRUE(assigned.present);
+}
+
+TEST(Reinforcement, ReadsABlockWithAMatAndItsOwnIronsFromAFile)
+{
+    StringArchive in(L"REFORCEM\n600\n"
+                     L"first" + std::wstring(5, L' ') + L" sec  third" + std::wstring(3, L' ') + L" 1\n"
+                     L"END\n"
+                     L"STEELMAT\n600\n"
+                     L"01 +00010 -00020 +00030 1 0 " + std::wstring(15, L' ') + L"ABCDE 03000 01200 2\n"
+                     + std::wstring(20, L' ') + L"\n" + std::wstring(20, L' ') + L"\n"
+                     L"END\n"
+                     L"RODSTOCK\n600\n000\nEND\n"
+                     L"BRGIRDER\n600\n000\nEND\n"
+                     L"END STEELMAT\n"
+                     L"EXTIRON_\n600\n001\n"
+                     L"001 02 00010 001.500 " + std::wstring(24, L' ') + L"Anchor\n"
+                     L"END\n"
+                     L"END REFORCEM\n"
+                     L"NEXT");
+    Reinforcement block;
+    EXPECT_TRUE(block.Read(in.archive));
+    EXPECT_TRUE(block.present);
+    EXPECT_TRUE(block.hasExternalIrons);
+    EXPECT_EQ(block.version, 600);
+    EXPECT_EQ(block.firstText, L"first     ");
+    EXPECT_EQ(block.secondText, L"sec ");
+    EXPECT_EQ(block.thirdText, L"third   ");
+    EXPECT_EQ(block.matFlag, 1);
+    ASSERT_EQ(block.mats.size(), 1u);
+    EXPECT_EQ(block.mats[0].name, std::wstring(15, L' ') + L"ABCDE");
+    EXPECT_EQ(block.mats[0].matKind, 2);
+    EXPECT_EQ(block.externalIrons.version, 600);
+    ASSERT_EQ(block.externalIrons.irons.size(), 1u);
+    EXPECT_EQ(block.externalIrons.irons[0].ironCount, 10);
+    EXPECT_EQ(ReadToken(in.archive), L"NEXT");
 }
 
 } // namespace

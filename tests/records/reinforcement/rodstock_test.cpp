@@ -1,5 +1,6 @@
 #include "records/reinforcement/rodstock.h"
 
+#include "framework/read_idioms.h"
 #include "support/test_support.h"
 
 #include <gtest/gtest.h>
@@ -503,6 +504,113 @@ TEST(Rodstock, CopyIsDeepAndViewsItsOwnLists)
     EXPECT_TRUE(assigned.spacers.positions.empty());
     EXPECT_EQ(copy.spacers.positions.size(), 1u);
     EXPECT_EQ(assigned.version, 600);
+}
+
+TEST(RodstockData, ReadsABarWithTwoFormsSpacersAndWeldingPointsFromAFile)
+{
+    // The welding head is written with blanks around its flag, as a file
+    // must have it to read.
+    StringArchive s(L"RODSTOCK\n502\n001\n"
+                    L"001 007 2 ABC 01200 012 00300 +00150 -00020 +00040 -090         XY 1\n"
+                    L"005 000 000 00100 00200 00300 111\n"
+                    L"021 00000 00250 00000 00000 000 000 00000 00000 00000 00000 090 -045\n"
+                    L"003 001\n"
+                    L"00001 00002 00003 00004 00005 00006 00007 00008 00009 00010\n"
+                    L"000 000 000 A 0 001\n"
+                    L"00001 002 00003 004 00005 006 00007 008 00009 010 00011 012 00013 014 00015 016\n"
+                    L"END\n"
+                    L"NEXT");
+    RodstockData data;
+    EXPECT_TRUE(data.Read(s.archive));
+    ASSERT_EQ(data.bars.size(), 1u);
+    const Rodstock& bar = data.bars[0];
+    EXPECT_EQ(bar.version, 502);
+    EXPECT_EQ(bar.number, 1);
+    EXPECT_EQ(bar.code, L"007");
+    EXPECT_EQ(bar.rodKind, 2);
+    EXPECT_EQ(bar.designation, L"ABC");
+    EXPECT_EQ(bar.firstSize, 1200);
+    EXPECT_EQ(bar.secondSize, 12);
+    EXPECT_EQ(bar.thirdSize, 300);
+    EXPECT_EQ(bar.position, Point2d(150, -20));
+    EXPECT_EQ(bar.positionZ, 40);
+    EXPECT_EQ(bar.rotation, -90);
+    EXPECT_EQ(bar.extraDesignation, L"        XY");
+    EXPECT_TRUE(bar.mountFlag);
+    EXPECT_EQ(bar.auxFirst, 5);
+    EXPECT_EQ(bar.auxSixth, 300);
+    EXPECT_TRUE(bar.hasWeldingPoints);
+    EXPECT_TRUE(bar.hasSpacers);
+    EXPECT_EQ(bar.bendingKind, L'1');
+    EXPECT_EQ(bar.firstForm.formCode, L"021");
+    EXPECT_EQ(bar.firstForm.formValueB, 250);
+    EXPECT_EQ(bar.secondForm.formCode, L"000");
+    EXPECT_EQ(bar.secondForm.formValueE, 90);
+    EXPECT_EQ(bar.formAngle, -45);
+    EXPECT_EQ(bar.spacers.spacerCode, 3);
+    ASSERT_EQ(bar.spacers.positions.size(), 1u);
+    EXPECT_EQ(bar.spacers.positions[0].value1, 1);
+    EXPECT_EQ(bar.spacers.positions[0].value10, 10);
+    EXPECT_EQ(bar.weldingPoints.weldLetter, L'A');
+    EXPECT_FALSE(bar.weldingPoints.weldFlag);
+    ASSERT_EQ(bar.weldingPoints.points.size(), 1u);
+    EXPECT_EQ(bar.weldingPoints.points[0].intersections[7].offset, 15);
+    EXPECT_EQ(bar.weldingPoints.points[0].intersections[7].weldCode, 16);
+    EXPECT_EQ(ReadToken(s.archive), L"NEXT");
+}
+
+TEST(RodstockData, ReadsABarWithAFreeFormFromAFileAt600)
+{
+    StringArchive s(L"RODSTOCK\n600\n001\n"
+                    L"002 000 0 BAR10      00000 000 00000 +00000 +00000 +00000 +000            0\n"
+                    L"000 000 000 00000 00000 00000 002\n"
+                    L"000 02\n"
+                    L"01 02 00100 +090 00200 -045\n"
+                    L"02 01 00300 +000\n"
+                    L"END\n");
+    RodstockData data;
+    EXPECT_TRUE(data.Read(s.archive));
+    ASSERT_EQ(data.bars.size(), 1u);
+    const Rodstock& bar = data.bars[0];
+    EXPECT_EQ(bar.version, 600);
+    EXPECT_EQ(bar.number, 2);
+    EXPECT_EQ(bar.designation, L"BAR10     ");
+    EXPECT_EQ(bar.extraDesignation, Testing::Blanks(10));
+    EXPECT_FALSE(bar.hasSpacers);
+    EXPECT_EQ(bar.bendingKind, L'2');
+    EXPECT_EQ(bar.freeForm.formCode, L"000");
+    ASSERT_EQ(bar.freeForm.parts.size(), 2u);
+    EXPECT_EQ(bar.freeForm.parts[0].partNumber, 1);
+    ASSERT_EQ(bar.freeForm.parts[0].segments.size(), 2u);
+    EXPECT_EQ(bar.freeForm.parts[0].segments[1].length, 200);
+    EXPECT_EQ(bar.freeForm.parts[0].segments[1].angle, -45);
+    EXPECT_EQ(bar.freeForm.parts[1].partNumber, 2);
+    ASSERT_EQ(bar.freeForm.parts[1].segments.size(), 1u);
+    EXPECT_EQ(bar.freeForm.parts[1].segments[0].length, 300);
+}
+
+TEST(RodstockData, ACountOfBarsTooHighFailsTheStream)
+{
+    StringArchive s(L"RODSTOCK\n502\n002\n"
+                    L"001 000 0     00000 000 00000 +00000 +00000 +00000 +000            0\n"
+                    L"000 000 000 00000 00000 00000 000\n"
+                    L"END\n");
+    RodstockData data;
+    EXPECT_FALSE(data.Read(s.archive));
+    EXPECT_TRUE(s.archive.fail());
+    EXPECT_EQ(data.bars.size(), 1u);
+}
+
+TEST(RodstockData, ACountOfBarsTooLowClearsValidAtTheNextBar)
+{
+    StringArchive s(L"RODSTOCK\n502\n000\n"
+                    L"001 000 0     00000 000 00000 +00000 +00000 +00000 +000            0\n"
+                    L"000 000 000 00000 00000 00000 000\n"
+                    L"END\n");
+    RodstockData data;
+    EXPECT_FALSE(data.Read(s.archive));
+    EXPECT_FALSE(s.archive.valid);
+    EXPECT_TRUE(data.bars.empty());
 }
 
 } // namespace

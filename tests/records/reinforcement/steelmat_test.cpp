@@ -1,5 +1,6 @@
 #include "records/reinforcement/steelmat.h"
 
+#include "framework/read_idioms.h"
 #include "support/test_support.h"
 
 #include <gtest/gtest.h>
@@ -270,6 +271,47 @@ TEST(Steelmat, CopyIsDeepAndViewsItsOwnLists)
     assigned.ItCollectionImpl<RodstockData>::Clear();
     EXPECT_TRUE(assigned.rodstocks.bars.empty());
     EXPECT_EQ(copy.rodstocks.bars.size(), 2u);
+}
+
+TEST(Steelmat, ReadsAMatOfVersion600FromAFile)
+{
+    StringArchive s(L"STEELMAT\n600\n"
+                    L"01 +00010 -00020 +00030 1 0 " + std::wstring(15, L' ') + L"ABCDE 03000 01200 2\n"
+                    + std::wstring(20, L' ') + L"\n"
+                    L"lower" + std::wstring(15, L' ') + L"\n"
+                    L"END\n"
+                    L"RODSTOCK\n600\n000\nEND\n"
+                    L"BRGIRDER\n600\n000\nEND\n"
+                    L"END STEELMAT\n"
+                    L"NEXT");
+    Steelmat mat;
+    EXPECT_TRUE(mat.Read(s.archive));
+    EXPECT_EQ(mat.version, 600);
+    EXPECT_EQ(mat.number, 1);
+    EXPECT_EQ(mat.positionX, 10);
+    EXPECT_EQ(mat.positionY, -20);
+    EXPECT_EQ(mat.positionZ, 30);
+    EXPECT_TRUE(mat.firstFlag);
+    EXPECT_FALSE(mat.secondFlag);
+    EXPECT_EQ(mat.name, std::wstring(15, L' ') + L"ABCDE");
+    EXPECT_EQ(mat.firstDimension, 3000);
+    EXPECT_EQ(mat.secondDimension, 1200);
+    EXPECT_EQ(mat.matKind, 2);
+    EXPECT_EQ(mat.extraTextA, std::wstring(20, L' '));
+    EXPECT_EQ(mat.extraTextB, L"lower" + std::wstring(15, L' '));
+    EXPECT_EQ(mat.rodstocks.version, 600);
+    EXPECT_EQ(mat.girders.version, 600);
+    EXPECT_EQ(ReadToken(s.archive), L"NEXT");
+}
+
+TEST(Steelmat, AFlagOtherThanZeroOrOneFailsTheStream)
+{
+    StringArchive s(L"STEELMAT\n502\n"
+                    L"01 +00010 -00020 +00030 2 0 " + std::wstring(15, L' ') + L"ABCDE 03000 01200 2\n"
+                    L"END\n" + emptyLists502 + L"END STEELMAT\n");
+    Steelmat mat;
+    EXPECT_FALSE(mat.Read(s.archive));
+    EXPECT_TRUE(s.archive.fail());
 }
 
 } // namespace
