@@ -99,5 +99,17 @@ TEST(AnchorBarData, CopyIsDeep)
     EXPECT_EQ(copy.bars.size(), 2u);
 }
 
+TEST(AnchorBarData, ACountOfZeroOrLessReadsNoBar)
+{
+    StringArchive s(L"004 000\n\n005 -01\n");
+    AnchorBarData data;
+    EXPECT_TRUE(data.Read(s.archive));
+    EXPECT_EQ(data.anchorCode, 4);
+    EXPECT_TRUE(data.bars.empty());
+    EXPECT_TRUE(data.Read(s.archive));
+    EXPECT_EQ(data.anchorCode, 5);
+    EXPECT_TRUE(data.bars.empty());
+}
+
 } // namespace
 } // namespace ItUnitechnik

@@ -256,5 +256,23 @@ TEST(BendingFormFree, CopyIsDeep)
     EXPECT_EQ(copy.formCode, L"000");
 }
 
+TEST(BendingFormFree, ACountOfZeroReadsNoPart)
+{
+    StringArchive s(L"000 00\n\nEND\n");
+    BendingFormFree form;
+    EXPECT_TRUE(form.Read(s.archive));
+    EXPECT_EQ(form.formCode, L"000");
+    EXPECT_TRUE(form.parts.empty());
+}
+
+TEST(BendingFormPart, ACountOfZeroReadsNoSegment)
+{
+    StringArchive s(L"03 00\n");
+    BendingFormPart part;
+    EXPECT_TRUE(part.Read(s.archive));
+    EXPECT_EQ(part.partNumber, 3);
+    EXPECT_TRUE(part.segments.empty());
+}
+
 } // namespace
 } // namespace ItUnitechnik

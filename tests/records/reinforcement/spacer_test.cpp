@@ -98,5 +98,17 @@ TEST(SpacerData, CopyIsDeep)
     EXPECT_EQ(data.positions[0].value3, 0);
 }
 
+TEST(SpacerData, ACountOfZeroOrLessReadsNoPosition)
+{
+    StringArchive s(L"006 000\n\n007 -02\n");
+    SpacerData data;
+    EXPECT_TRUE(data.Read(s.archive));
+    EXPECT_EQ(data.spacerCode, 6);
+    EXPECT_TRUE(data.positions.empty());
+    EXPECT_TRUE(data.Read(s.archive));
+    EXPECT_EQ(data.spacerCode, 7);
+    EXPECT_TRUE(data.positions.empty());
+}
+
 } // namespace
 } // namespace ItUnitechnik

@@ -149,5 +149,18 @@ TEST(WeldingPointData, CopyCarriesTheHeadAndIsDeep)
     EXPECT_EQ(data.points[0].intersections[0].offset, 0);
 }
 
+TEST(WeldingPointData, ACountOfPointsTooHighFailsTheStream)
+{
+    StringArchive s(L"000 000 000 A 1 002\n"
+                    L"00001 002 00003 004 00005 006 00007 008 00009 010 00011 012 00013 014 00015 016\n"
+                    L"END\n");
+    WeldingPointData data;
+    EXPECT_FALSE(data.Read(s.archive));
+    EXPECT_TRUE(s.archive.fail());
+    EXPECT_TRUE(data.weldFlag);
+    ASSERT_EQ(data.points.size(), 1u);
+    EXPECT_EQ(data.points[0].intersections[1].offset, 3);
+}
+
 } // namespace
 } // namespace ItUnitechnik
