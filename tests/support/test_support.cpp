@@ -133,6 +133,21 @@ std::string Narrow(const std::wstring& text)
     return out;
 }
 
+std::wstring JoinLines(const std::vector<std::wstring>& lines)
+{
+    std::wstring text;
+    for (const std::wstring& line : lines) {
+        text += line + L"\n";
+    }
+    return text;
+}
+
+std::vector<std::wstring> Joined(std::vector<std::wstring> head, const std::vector<std::wstring>& tail)
+{
+    head.insert(head.end(), tail.begin(), tail.end());
+    return head;
+}
+
 std::wstring FromHostText(const it_char16* text)
 {
     std::wstring out;

@@ -26,6 +26,11 @@ public:
 std::wstring Blanks(std::size_t n);
 // The lines of a text, each without its line feed; the text must end in one.
 std::vector<std::wstring> Lines(const std::wstring& text);
+// The text of these lines, each ended by a line feed: a file as a reader
+// sees it through a string buffer.
+std::wstring JoinLines(const std::vector<std::wstring>& lines);
+// The lines of `head` followed by those of `tail`.
+std::vector<std::wstring> Joined(std::vector<std::wstring> head, const std::vector<std::wstring>& tail);
 
 // Bytes of a file; empty when it cannot be read.
 std::string ReadFileBytes(const std::string& path);

@@ -18,6 +18,8 @@ namespace {
 using Testing::Blanks;
 using Testing::Lines;
 using Testing::StringArchive;
+using Testing::Joined;
+using Testing::JoinLines;
 
 ElementPart AtVersion(std::int16_t version)
 {
@@ -586,6 +588,8 @@ namespace {
 using Testing::Blanks;
 using Testing::Lines;
 using Testing::StringArchive;
+using Testing::Joined;
+using Testing::JoinLines;
 
 // A default element's own lines at 502, up to its "END".
 std::vector<std::wstring> OwnLines502(const std::wstring& extents = L"00000 00000")
@@ -608,21 +612,6 @@ std::vector<std::wstring> ReadableLayerLines(const std::wstring& dataLine)
     return {L"LAYER___", L"502", dataLine, L"END", L"MOUNPART", L"502", L"000", L"END", L"REFORCEM", L"502",
             Blanks(10) + L" " + Blanks(4) + L" " + Blanks(8) + L" 0", L"END", L"EXTIRON_", L"502", L"000",
             L"END", L"END REFORCEM", L"END LAYER___"};
-}
-
-std::vector<std::wstring> Joined(std::vector<std::wstring> head, const std::vector<std::wstring>& tail)
-{
-    head.insert(head.end(), tail.begin(), tail.end());
-    return head;
-}
-
-std::wstring Text(const std::vector<std::wstring>& lines)
-{
-    std::wstring text;
-    for (const std::wstring& line : lines) {
-        text += line + L"\n";
-    }
-    return text;
 }
 
 Contour Square(std::int32_t side)
@@ -710,7 +699,7 @@ TEST(ElementPartLayers, ReadsLayersUpToTheClosingTag)
         Joined(Joined(Joined(OwnLines502(), ReadableLayerLines(L"1 000011 000012 000013 00")),
                       ReadableLayerLines(L"2 000021 000022 000023 00")),
                {L"END SLABDATE", L"NEXT"});
-    StringArchive s(Text(lines));
+    StringArchive s(JoinLines(lines));
     ElementPart element;
     EXPECT_TRUE(element.Read(s.archive));
     EXPECT_TRUE(s.archive.valid);
@@ -740,7 +729,7 @@ TEST(ElementPartLayers, ALayerThatFailsEndsTheLayersAndTheClosingTagFails)
     const std::vector<std::wstring> lines = Joined(
         Joined(Joined(OwnLines502(), ReadableLayerLines(L"1 000000 000000 000000 00")), broken),
         {L"END SLABDATE"});
-    StringArchive s(Text(lines));
+    StringArchive s(JoinLines(lines));
     ElementPart element;
     EXPECT_FALSE(element.Read(s.archive));
     EXPECT_FALSE(s.archive.valid);
@@ -756,7 +745,7 @@ TEST(ElementPartLayers, WithoutALayerTheOutlineIsReadAsBefore)
         {L"CONTOUR_", L"502", L"01", L"01 00 01", L"S 00000 00000 00100 00200 0000", L"END", L"CUTOUT__",
          L"502", L"00", L"END", L"MOUNPART", L"502", L"000", L"END", L"RODSTOCK", L"502", L"000", L"END",
          L"BRGIRDER", L"502", L"000", L"END", L"END SLABDATE"});
-    StringArchive s(Text(lines));
+    StringArchive s(JoinLines(lines));
     ElementPart element;
     EXPECT_TRUE(element.Read(s.archive));
     EXPECT_TRUE(element.layers.empty());
@@ -801,19 +790,12 @@ namespace {
 
 using Testing::Blanks;
 using Testing::StringArchive;
-
-std::wstring File(const std::vector<std::wstring>& lines)
-{
-    std::wstring text;
-    for (const std::wstring& line : lines) {
-        text += line + L"\n";
-    }
-    return text;
-}
+using Testing::Joined;
+using Testing::JoinLines;
 
 TEST(ElementPartReadFile, Version600)
 {
-    StringArchive s(File({
+    StringArchive s(JoinLines({
         L"SLABDATE",
         L"600",
         L"E-7" + Blanks(12) + L" 1 A0 01 123 007 00004 000 000 06 00 " + Blanks(35) + L"forty",
@@ -891,7 +873,7 @@ TEST(ElementPartReadFile, Version600)
 
 TEST(ElementPartReadFile, Version502WithPlastersAConcreteLayerAndTheOptionalPair)
 {
-    StringArchive s(File({
+    StringArchive s(JoinLines({
         L"SLABDATE",
         L"502",
         L"034 1 22 00 05 333 000 000 007 00 08 4444",
@@ -953,7 +935,7 @@ TEST(ElementPartReadFile, Version502WithPlastersAConcreteLayerAndTheOptionalPair
 
 TEST(ElementPartReadFile, Version499HasTheShortLinesAndNoPlasterOrConcreteLines)
 {
-    StringArchive s(File({
+    StringArchive s(JoinLines({
         L"SLABDATE",
         L"499",
         L"034 1 22 00 05 333 000 000 007",
@@ -989,7 +971,7 @@ TEST(ElementPartReadFile, Version499HasTheShortLinesAndNoPlasterOrConcreteLines)
 
 TEST(ElementPartReadFile, VersionFiveHasTheLongLinesButNoConcreteLines)
 {
-    StringArchive s(File({
+    StringArchive s(JoinLines({
         L"SLABDATE",
         L"005",
         L"012 0 00 00 00 000 000 000 000 01 02 ABCD",
@@ -1017,7 +999,7 @@ TEST(ElementPartReadFile, VersionFiveHasTheLongLinesButNoConcreteLines)
 
 TEST(ElementPartReadFile, BelowVersion600AMissingListOfOpeningsFailsTheElement)
 {
-    StringArchive s(File({
+    StringArchive s(JoinLines({
         L"SLABDATE", L"499", L"034 1 22 00 05 333 000 000 007",
         L"01.250 111 22 textB8xx 0.500 00003.5 0200 030 333 444 000 009",
         L"06000 02400 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00",
@@ -1035,7 +1017,7 @@ TEST(ElementPartReadFile, BelowVersion600AMissingListOfOpeningsFailsTheElement)
 
 TEST(ElementPartReadFile, AConcreteCountThatIsNoNumberFailsTheStream)
 {
-    StringArchive s(File({
+    StringArchive s(JoinLines({
         L"SLABDATE", L"503", L"012 0 00 00 00 000 000 000 000 00 00 0000",
         L"00.000 000 00          0.000 00000.0 0000 000 000 000 000 000 0000",
         L"xx",
@@ -1049,7 +1031,7 @@ TEST(ElementPartReadFile, AConcreteCountThatIsNoNumberFailsTheStream)
 
 TEST(OrderWithElement, ReadsAFileWrittenByHand)
 {
-    StringArchive s(File({
+    StringArchive s(JoinLines({
         L"HEADER__",
         L"502",
         L"ORD-1" + Blanks(3) + L"   ABCDE WXYZ       R8 07 00 " + Blanks(40),

@@ -15,6 +15,8 @@ namespace {
 using Testing::Blanks;
 using Testing::Lines;
 using Testing::StringArchive;
+using Testing::Joined;
+using Testing::JoinLines;
 
 std::vector<std::wstring> Written(Layer layer)
 {
@@ -37,27 +39,12 @@ const std::vector<std::wstring> emptyTail = {
     L"MOUNPART", L"502", L"000", L"END", L"REFORCEM", L"502", blockLine, L"END", L"END REFORCEM",
     L"END LAYER___"};
 
-std::vector<std::wstring> Joined(std::vector<std::wstring> head, const std::vector<std::wstring>& tail)
-{
-    head.insert(head.end(), tail.begin(), tail.end());
-    return head;
-}
-
-std::wstring Text(const std::vector<std::wstring>& lines)
-{
-    std::wstring text;
-    for (const std::wstring& line : lines) {
-        text += line + L"\n";
-    }
-    return text;
-}
-
 // A layer's text as a file would have it: the block carries an empty list of
 // irons of its own, without which it does not read.
 std::wstring LayerText(const std::wstring& dataLine, const std::vector<std::wstring>& lots)
 {
     std::vector<std::wstring> lines = Joined({L"LAYER___", L"502", dataLine, L"END"}, lots);
-    return Text(Joined(lines, {L"MOUNPART", L"502", L"000", L"END", L"REFORCEM", L"502", blockLine, L"END",
+    return JoinLines(Joined(lines, {L"MOUNPART", L"502", L"000", L"END", L"REFORCEM", L"502", blockLine, L"END",
                                L"EXTIRON_", L"502", L"000", L"END", L"END REFORCEM", L"END LAYER___"}));
 }
 
@@ -224,7 +211,7 @@ TEST(LayerRead, ALotThatFailsIsNotKept)
 
 TEST(LayerRead, ABlockWithoutIronsTakesTheClosingLineAndTheLayerFails)
 {
-    StringArchive s(Text(Joined({L"LAYER___", L"502", L"0 000000 000000 000000 00", L"END"}, emptyTail)));
+    StringArchive s(JoinLines(Joined({L"LAYER___", L"502", L"0 000000 000000 000000 00", L"END"}, emptyTail)));
     Layer layer;
     EXPECT_FALSE(layer.Read(s.archive));
     EXPECT_FALSE(s.archive.valid);

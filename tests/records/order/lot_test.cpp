@@ -17,6 +17,7 @@ namespace {
 using Testing::Blanks;
 using Testing::Lines;
 using Testing::StringArchive;
+using Testing::Joined;
 
 std::vector<std::wstring> Written(Lot lot)
 {
@@ -29,12 +30,6 @@ std::vector<std::wstring> Written(Lot lot)
 std::vector<std::wstring> EmptyOutlines(const std::wstring& version)
 {
     return {L"CONTOUR_", version, L"00", L"END", L"CUTOUT__", version, L"00", L"END", L"END LOT_____"};
-}
-
-std::vector<std::wstring> Joined(std::vector<std::wstring> head, const std::vector<std::wstring>& tail)
-{
-    head.insert(head.end(), tail.begin(), tail.end());
-    return head;
 }
 
 TEST(LotWrite, DefaultLot)
