@@ -64,20 +64,13 @@ ITUNITECHNIK_API it_char16* getFullReinforcementString(void)
     if (element == nullptr) {
         return AsResult(kEmpty);
     }
-    // Copies of the lists, so that writing leaves the element as it is; the
-    // reinforcement block writes from the element itself.
-    MountingPartData mountingParts;
-    mountingParts.version = element->mountingPartData.version;
-    mountingParts.parts = element->mountingPartData.parts;
-    RodstockData rodstocks;
-    rodstocks.version = element->rodstockData.version;
-    rodstocks.bars = element->rodstockData.bars;
-    BracedGirderData girders;
-    girders.version = element->bracedGirderData.version;
-    girders.girders = element->bracedGirderData.girders;
-    ExternalIronData irons;
-    irons.version = element->externalIronData.version;
-    irons.irons = element->externalIronData.irons;
+    // Copies of the lists with their versions, so that writing leaves the
+    // element as it is; the reinforcement block writes from the element
+    // itself.
+    MountingPartData mountingParts(element->mountingPartData);
+    RodstockData rodstocks(element->rodstockData);
+    BracedGirderData girders(element->bracedGirderData);
+    ExternalIronData irons(element->externalIronData);
 
     // One stream for all five records: flags and fill carry over from one to
     // the next as in the file, and each line ends in a bare line feed.

@@ -107,4 +107,22 @@ int WideToInt(const std::wstring& text)
     return static_cast<int>(negative ? -value : value);
 }
 
+bool ExpectToken(Archive& ar, const wchar_t* tag)
+{
+    if (!Matches(ReadToken(ar), tag)) {
+        ar.valid = false;
+        return false;
+    }
+    return true;
+}
+
+bool ExpectLine(Archive& ar, const wchar_t* tag)
+{
+    if (!Matches(ReadLine(ar), tag)) {
+        ar.valid = false;
+        return false;
+    }
+    return true;
+}
+
 } // namespace ItUnitechnik

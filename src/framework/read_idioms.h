@@ -50,6 +50,12 @@ int WideToInt(const std::wstring& text);
 
 namespace ItUnitechnik {
 
+// A record's tag where the reader expects it: the next token, or the rest of
+// the present line, must match. When it does not, the Archive's `valid` is
+// cleared and the result is false; a wrong tag spoils the rest of the read.
+bool ExpectToken(Archive& ar, const wchar_t* tag);
+bool ExpectLine(Archive& ar, const wchar_t* tag);
+
 // The collection read: `count` times a fresh element from `make` reads
 // itself, and only an element after which the stream is healthy is kept. A
 // failed element does not end the loop; once the stream itself has failed no

@@ -110,6 +110,40 @@ TEST(Trim, CarriageReturnIsNotInTheSet)
     EXPECT_EQ(text, L"AB\r");
 }
 
+TEST(ExpectToken, TakesTheTagAndKeepsValid)
+{
+    StringArchive s(L"  RODSTOCK\n502");
+    EXPECT_TRUE(ExpectToken(s.archive, L"RODSTOCK"));
+    EXPECT_TRUE(s.archive.valid);
+    int version = 0;
+    s.archive >> version;
+    EXPECT_EQ(version, 502);
+}
+
+TEST(ExpectToken, AnyOtherTokenClearsValid)
+{
+    for (const wchar_t* text : {L"RODSTOCKS", L"RODSTOC", L"BRGIRDER", L""}) {
+        StringArchive s(text);
+        EXPECT_FALSE(ExpectToken(s.archive, L"RODSTOCK")) << Testing::Narrow(text);
+        EXPECT_FALSE(s.archive.valid);
+    }
+}
+
+TEST(ExpectLine, TakesTheWholeLine)
+{
+    StringArchive s(L"END STEELMAT\r\nNEXT");
+    EXPECT_TRUE(ExpectLine(s.archive, L"END STEELMAT"));
+    EXPECT_TRUE(s.archive.valid);
+    EXPECT_EQ(ReadToken(s.archive), L"NEXT");
+}
+
+TEST(ExpectLine, ALineWithMoreOnItClearsValid)
+{
+    StringArchive s(L"END STEELMAT \nEND STEELMAT\n");
+    EXPECT_FALSE(ExpectLine(s.archive, L"END STEELMAT"));
+    EXPECT_FALSE(s.archive.valid);
+}
+
 TEST(Healthy, BadThenFailThenValid)
 {
     StringArchive s;

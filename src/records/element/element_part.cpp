@@ -316,8 +316,7 @@ void ElementPart::Rewind(Archive& ar, std::wistream::pos_type position)
 
 bool ElementPart::Read(Archive& ar)
 {
-    if (!Matches(ReadToken(ar), L"SLABDATE")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"SLABDATE")) {
         return false;
     }
     ar >> version;
@@ -420,6 +419,8 @@ bool ElementPart::Read(Archive& ar)
         slabInfo4 = ReadLine(ar);
     }
 
+    // A wrong end of the element's own lines leaves `valid` set: the order
+    // goes on with its next element.
     if (!Matches(ReadToken(ar), L"END")) {
         return false;
     }
@@ -442,8 +443,7 @@ bool ElementPart::Read(Archive& ar)
         return false;
     }
 
-    if (!Matches(ReadLine(ar), L"END SLABDATE")) {
-        ar.valid = false;
+    if (!ExpectLine(ar, L"END SLABDATE")) {
         return false;
     }
     return Healthy(ar);

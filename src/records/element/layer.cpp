@@ -55,14 +55,12 @@ bool Layer::Write(Archive& ar)
 
 bool Layer::Read(Archive& ar)
 {
-    if (!Matches(ReadToken(ar), L"LAYER___")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"LAYER___")) {
         return false;
     }
     ar >> version;
     ar >> layerValue1 >> layerValue2 >> layerValue3 >> layerValue4 >> lotCount;
-    if (!Matches(ReadToken(ar), L"END")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"END")) {
         return false;
     }
     ReadElements(ar, lotCount, [] { return Lot(); }, lots);
@@ -74,8 +72,7 @@ bool Layer::Read(Archive& ar)
     if (!Healthy(ar)) {
         return false;
     }
-    if (!Matches(ReadLine(ar), L"END LAYER___")) {
-        ar.valid = false;
+    if (!ExpectLine(ar, L"END LAYER___")) {
         return false;
     }
     return true;

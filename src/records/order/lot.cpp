@@ -73,8 +73,7 @@ bool Lot::Write(Archive& ar)
 
 bool Lot::Read(Archive& ar)
 {
-    if (!Matches(ReadToken(ar), L"LOT_____")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"LOT_____")) {
         return false;
     }
     ar >> version;
@@ -92,8 +91,7 @@ bool Lot::Read(Archive& ar)
         // character, and the field's last one stays in the stream.
         GetText(ar, 20, lotText20);
     }
-    if (!Matches(ReadToken(ar), L"END")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"END")) {
         return false;
     }
     contourData.Read(ar);
@@ -105,8 +103,7 @@ bool Lot::Read(Archive& ar)
         return false;
     }
     SkipLine(ar);
-    if (!Matches(ReadLine(ar), L"END LOT_____")) {
-        ar.valid = false;
+    if (!ExpectLine(ar, L"END LOT_____")) {
         return false;
     }
     return true;

@@ -111,6 +111,8 @@ bool Order::Write(Archive& ar)
 
 bool Order::Read(Archive& ar)
 {
+    // Not the order's tag: give up at once, leaving `valid` and the stream
+    // as they are.
     if (!Matches(ReadToken(ar), L"HEADER__")) {
         return false;
     }
@@ -170,8 +172,7 @@ bool Order::Read(Archive& ar)
     std::int32_t elementCount = 0;
     ar >> elementCount;
     SkipLine(ar);
-    if (!Matches(ReadToken(ar), L"END")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"END")) {
         return false;
     }
 
@@ -187,8 +188,7 @@ bool Order::Read(Archive& ar)
         }
     }
 
-    if (!Matches(ReadLine(ar), L"END HEADER__")) {
-        ar.valid = false;
+    if (!ExpectLine(ar, L"END HEADER__")) {
         return false;
     }
     return Healthy(ar);

@@ -68,8 +68,7 @@ bool ContourData::Write(Archive& ar)
 
 bool ContourData::Read(Archive& ar)
 {
-    if (!Matches(ReadToken(ar), L"CONTOUR_")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"CONTOUR_")) {
         return false;
     }
     ar >> version;

@@ -69,16 +69,14 @@ bool CutoutData::Write(Archive& ar)
 
 bool CutoutData::Read(Archive& ar)
 {
-    if (!Matches(ReadToken(ar), L"CUTOUT__")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"CUTOUT__")) {
         return false;
     }
     ar >> version;
     std::int32_t count = 0;
     ar >> count;
     ReadElements(ar, count, [&] { return Cutout(version); }, cutouts);
-    if (!Matches(ReadToken(ar), L"END")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"END")) {
         return false;
     }
     return Healthy(ar);

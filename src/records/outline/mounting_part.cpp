@@ -120,16 +120,14 @@ bool MountingPartData::Write(Archive& ar)
 
 bool MountingPartData::Read(Archive& ar)
 {
-    if (!Matches(ReadToken(ar), L"MOUNPART")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"MOUNPART")) {
         return false;
     }
     ar >> version;
     std::int32_t count = 0;
     ar >> count;
     ReadElements(ar, count, [&] { return MountingPart(version); }, parts);
-    if (!Matches(ReadToken(ar), L"END")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"END")) {
         return false;
     }
     return Healthy(ar);

@@ -136,16 +136,14 @@ bool BracedGirderData::Write(Archive& ar)
 
 bool BracedGirderData::Read(Archive& ar)
 {
-    if (!Matches(ReadToken(ar), L"BRGIRDER")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"BRGIRDER")) {
         return false;
     }
     ar >> version;
     std::int32_t count = 0;
     ar >> count;
     ReadElements(ar, count, [&] { return BracedGirder(); }, girders);
-    if (!Matches(ReadToken(ar), L"END")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"END")) {
         return false;
     }
     return Healthy(ar);

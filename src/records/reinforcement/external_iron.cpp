@@ -43,16 +43,14 @@ bool ExternalIronData::Write(Archive& ar)
 
 bool ExternalIronData::Read(Archive& ar)
 {
-    if (!Matches(ReadToken(ar), L"EXTIRON_")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"EXTIRON_")) {
         return false;
     }
     ar >> version;
     std::int32_t count = 0;
     ar >> count;
     ReadElements(ar, count, [&] { return ExternalIron(); }, irons);
-    if (!Matches(ReadToken(ar), L"END")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"END")) {
         return false;
     }
     return Healthy(ar);

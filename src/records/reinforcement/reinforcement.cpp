@@ -84,8 +84,7 @@ bool Reinforcement::Write(Archive& ar)
 
 bool Reinforcement::Read(Archive& ar)
 {
-    if (!Matches(ReadToken(ar), L"REFORCEM")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"REFORCEM")) {
         return false;
     }
     ar >> version;
@@ -99,8 +98,7 @@ bool Reinforcement::Read(Archive& ar)
     SkipChar(ar);
     ar >> matFlag;
 
-    if (!Matches(ReadToken(ar), L"END")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"END")) {
         return false;
     }
     SkipLine(ar);
@@ -131,8 +129,7 @@ bool Reinforcement::Read(Archive& ar)
     // at the closing line itself, which the skip then drops: a block without
     // irons reads only when a second closing line follows.
     SkipLine(ar);
-    if (!Matches(ReadLine(ar), L"END REFORCEM")) {
-        ar.valid = false;
+    if (!ExpectLine(ar, L"END REFORCEM")) {
         return false;
     }
     present = true;

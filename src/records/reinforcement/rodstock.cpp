@@ -184,16 +184,14 @@ bool RodstockData::Write(Archive& ar)
 
 bool RodstockData::Read(Archive& ar)
 {
-    if (!Matches(ReadToken(ar), L"RODSTOCK")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"RODSTOCK")) {
         return false;
     }
     ar >> version;
     std::int32_t count = 0;
     ar >> count;
     ReadElements(ar, count, [&] { return Rodstock(version); }, bars);
-    if (!Matches(ReadToken(ar), L"END")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"END")) {
         return false;
     }
     return Healthy(ar);

@@ -73,8 +73,7 @@ bool Steelmat::Write(Archive& ar)
 
 bool Steelmat::Read(Archive& ar)
 {
-    if (!Matches(ReadToken(ar), L"STEELMAT")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"STEELMAT")) {
         return false;
     }
     ar >> version >> number >> positionX >> positionY >> positionZ >> firstFlag >> secondFlag;
@@ -88,8 +87,7 @@ bool Steelmat::Read(Archive& ar)
         SkipLine(ar);
         GetText(ar, 20, extraTextB);
     }
-    if (!Matches(ReadToken(ar), L"END")) {
-        ar.valid = false;
+    if (!ExpectToken(ar, L"END")) {
         return false;
     }
     rodstocks.Read(ar);
@@ -101,8 +99,7 @@ bool Steelmat::Read(Archive& ar)
         return false;
     }
     SkipLine(ar);
-    if (!Matches(ReadLine(ar), L"END STEELMAT")) {
-        ar.valid = false;
+    if (!ExpectLine(ar, L"END STEELMAT")) {
         return false;
     }
     return Healthy(ar);
