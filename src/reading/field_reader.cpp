@@ -104,7 +104,7 @@ FieldReader::FieldReader(std::wstring text) : text_(std::move(text))
     }
 }
 
-ReadStop FieldReader::StopAt(std::size_t offset, std::string expected) const
+ReadStop FieldReader::StopAt(std::size_t offset, std::string expected, bool atEnd) const
 {
     offset = std::min(offset, text_.size());
     const auto after = std::upper_bound(lineStarts_.begin(), lineStarts_.end(), offset);
@@ -114,18 +114,18 @@ ReadStop FieldReader::StopAt(std::size_t offset, std::string expected) const
     stop.column = offset - lineStarts_[line - 1] + 1;
     stop.expected = std::move(expected);
     stop.record = record_;
-    stop.atEnd = offset >= text_.size();
+    stop.atEnd = atEnd;
     return stop;
 }
 
 void FieldReader::Fail(std::string expected) const
 {
-    throw ReadFailure(StopAt(fieldStart_, std::move(expected)));
+    throw ReadFailure(StopAt(fieldStart_, std::move(expected), position_ >= text_.size()));
 }
 
 void FieldReader::FailHere(std::string expected) const
 {
-    throw ReadFailure(StopAt(position_, std::move(expected)));
+    throw ReadFailure(StopAt(position_, std::move(expected), position_ >= text_.size()));
 }
 
 std::wstring FieldReader::Take(std::size_t minimum, bool (*allowed)(wchar_t),
@@ -135,8 +135,9 @@ std::wstring FieldReader::Take(std::size_t minimum, bool (*allowed)(wchar_t),
     std::wstring taken;
     while (taken.size() < minimum) {
         if (position_ >= text_.size() || !allowed(text_[position_])) {
-            throw ReadFailure(StopAt(fieldStart_, std::string(what) + " of at least " + std::to_string(minimum) +
-                                                      " places"));
+            throw ReadFailure(StopAt(fieldStart_,
+                                     std::string(what) + " of at least " + std::to_string(minimum) + " places",
+                                     position_ >= text_.size()));
         }
         taken += text_[position_++];
     }
@@ -151,7 +152,7 @@ std::wstring FieldReader::Text(int width)
     fieldStart_ = position_;
     const std::size_t count = static_cast<std::size_t>(std::max(width, 0));
     if (text_.size() - position_ < count) {
-        throw ReadFailure(StopAt(position_, "a text of " + std::to_string(count) + " places"));
+        throw ReadFailure(StopAt(position_, "a text of " + std::to_string(count) + " places", true));
     }
     std::wstring field = text_.substr(position_, count);
     position_ += count;
@@ -290,7 +291,8 @@ void FieldReader::Literal(const char* text)
     const std::size_t length = std::strlen(text);
     for (std::size_t i = 0; i < length; ++i) {
         if (position_ + i >= text_.size() || text_[position_ + i] != static_cast<unsigned char>(text[i])) {
-            throw ReadFailure(StopAt(position_ + i, std::string(text) == " " ? "a blank" : "\"" + std::string(text) + "\""));
+            const std::string what = std::string(text) == " " ? "a blank" : "\"" + std::string(text) + "\"";
+            throw ReadFailure(StopAt(position_ + i, what, position_ + i >= text_.size()));
         }
     }
     position_ += length;

@@ -90,7 +90,8 @@ public:
     // Where the cursor stands, and where the field read last began.
     std::size_t Offset() const { return position_; }
     std::size_t FieldStart() const { return fieldStart_; }
-    ReadStop StopAt(std::size_t offset, std::string expected) const;
+    // A stop at `offset`; `atEnd` when the text ended before what was looked for.
+    ReadStop StopAt(std::size_t offset, std::string expected, bool atEnd) const;
     // Ends the reading at the start of the field read last, or here.
     [[noreturn]] void Fail(std::string expected) const;
     [[noreturn]] void FailHere(std::string expected) const;
