@@ -1,0 +1,64 @@
+// unitechnik dump FILE [--json | --tree]: a file read tolerantly, printed as
+// its record tree.
+#include "reading/tolerant_reading.h"
+#include "sub_command.h"
+#include "tool_files.h"
+#include "tree/tree_json.h"
+#include "tree/tree_text.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+
+namespace ItUnitechnik::Tool {
+
+namespace {
+
+class DumpCommand : public SubCommand {
+public:
+    const char* Name() const override { return "dump"; }
+    const char* Description() const override
+    {
+        return "Reads a Unitechnik file and prints its record tree, as JSON (the default) or as an outline";
+    }
+
+    void AddOptions(CLI::App& app) override
+    {
+        app.add_option("FILE", input_, "the Unitechnik file")->required();
+        CLI::Option* json = app.add_flag("--json", json_, "every member of every record, as JSON (the default)");
+        CLI::Option* tree = app.add_flag("--tree", tree_, "one line a record, indented by nesting");
+        json->excludes(tree);
+    }
+
+    int Run() override
+    {
+        const TolerantDocument document = ReadTolerantly(ReadFileOrThrow(input_));
+        std::vector<Order> orders = document.orders;
+        if (tree_) {
+            std::cout << Tree::TreeText(orders);
+        } else {
+            nlohmann::ordered_json out = nlohmann::ordered_json::object();
+            out["document"] = Tree::ToJson(orders);
+            std::cout << out.dump(2) << '\n';
+        }
+        if (!document.Complete()) {
+            std::cerr << StopMessage(input_, *document.stop) << '\n';
+            return kFailed;
+        }
+        return kDone;
+    }
+
+private:
+    std::string input_;
+    bool json_ = false;
+    bool tree_ = false;
+};
+
+} // namespace
+
+std::unique_ptr<SubCommand> MakeDumpCommand()
+{
+    return std::make_unique<DumpCommand>();
+}
+
+} // namespace ItUnitechnik::Tool

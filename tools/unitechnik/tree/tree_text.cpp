@@ -1,0 +1,248 @@
+#include "tree/tree_text.h"
+
+#include "geometry/arc.h"
+#include "geometry/circle.h"
+#include "geometry/line_segment.h"
+#include "geometry/polygon.h"
+#include "tree/tree_json.h"
+
+#include <charconv>
+#include <sstream>
+
+namespace ItUnitechnik::Tree {
+
+std::string Shown(const std::wstring& text)
+{
+    const std::size_t first = text.find_first_not_of(L' ');
+    if (first == std::wstring::npos) {
+        return "";
+    }
+    return Utf8(text.substr(first, text.find_last_not_of(L' ') - first + 1));
+}
+
+namespace {
+
+std::string Quoted(const std::wstring& text)
+{
+    return "\"" + Shown(text) + "\"";
+}
+
+// A double as the shortest text that reads back to it.
+std::string Number(double value)
+{
+    char buffer[64];
+    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+    return std::string(buffer, result.ptr);
+}
+
+std::string At(std::int32_t x, std::int32_t y)
+{
+    return "(" + std::to_string(x) + ", " + std::to_string(y) + ")";
+}
+
+std::string At(std::int32_t x, std::int32_t y, std::int32_t z)
+{
+    return "(" + std::to_string(x) + ", " + std::to_string(y) + ", " + std::to_string(z) + ")";
+}
+
+std::string Counted(std::size_t count, const char* one, const char* many)
+{
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+class Outline {
+public:
+    std::string Text() const { return out_.str(); }
+
+    void Orders(const std::vector<Order>& orders)
+    {
+        for (const Order& order : orders) {
+            Line(0, "HEADER__ version " + std::to_string(order.version) + ", order " + Quoted(order.orderNumber) +
+                        ", " + Counted(order.elementParts.size(), "element", "elements"));
+            for (const ElementPart& element : order.elementParts) {
+                Element(1, element);
+            }
+        }
+    }
+
+private:
+    void Line(int depth, const std::string& text) { out_ << std::string(2 * depth, ' ') << text << '\n'; }
+
+    void Element(int depth, const ElementPart& element)
+    {
+        const std::string number =
+            element.version < 600 ? std::to_string(element.elementNumber) : Shown(element.elementNumberText);
+        Line(depth, "SLABDATE version " + std::to_string(element.version) + ", element " + number + " " +
+                        Quoted(element.elementText30) + ", " + std::to_string(element.extentX) + " x " +
+                        std::to_string(element.extentY) + ", thickness " + std::to_string(element.thickness) + ", " +
+                        Counted(element.concreteLayers.size(), "concrete layer", "concrete layers"));
+        if (!element.layers.empty()) {
+            for (const Layer& layer : element.layers) {
+                Line(depth + 1, "LAYER___ version " + std::to_string(layer.version) + ", " +
+                                    Counted(layer.lots.size(), "lot", "lots"));
+                for (const Lot& lot : layer.lots) {
+                    Line(depth + 2, "LOT_____ version " + std::to_string(lot.version) + ", lot " +
+                                        std::to_string(lot.lotNumber) + " " + Quoted(lot.lotText));
+                    Contours(depth + 3, lot.contourData);
+                    Cutouts(depth + 3, lot.cutoutData);
+                }
+                Parts(depth + 2, layer.mountingPartData);
+                Block(depth + 2, layer.reinforcement);
+            }
+            return;
+        }
+        Contours(depth + 1, element.contourData);
+        Cutouts(depth + 1, element.cutoutData);
+        Parts(depth + 1, element.mountingPartData);
+        if (element.version < 600 && element.reinforcement.present) {
+            Block(depth + 1, element.reinforcement);
+            return;
+        }
+        if (element.version < 600 || !element.rodstockData.bars.empty()) {
+            Bars(depth + 1, element.rodstockData);
+        }
+        if (element.version < 600 || !element.bracedGirderData.girders.empty()) {
+            Girders(depth + 1, element.bracedGirderData);
+        }
+        if (element.reinforcement.present) {
+            Block(depth + 1, element.reinforcement);
+        }
+        if (element.hasExternalIron) {
+            Irons(depth + 1, element.externalIronData);
+        }
+    }
+
+    void Pieces(int depth, const std::vector<GeoData>& pieces)
+    {
+        for (const GeoData& piece : pieces) {
+            std::string text(1, static_cast<char>(piece.elementKind));
+            if (const auto* arc = dynamic_cast<const Arc*>(piece.curve)) {
+                text += " arc about " + At(arc->centre.x, arc->centre.y) + ", radius " + std::to_string(arc->radius) +
+                        ", from " + std::to_string(arc->startAngle) + " to " + std::to_string(arc->endAngle);
+            } else if (const auto* circle = dynamic_cast<const Circle*>(piece.curve)) {
+                text += " circle about " + At(circle->centre.x, circle->centre.y) + ", radius " +
+                        std::to_string(circle->radius);
+            } else if (const auto* line = dynamic_cast<const LineSegment*>(piece.curve)) {
+                text += " line " + At(line->start.x, line->start.y) + " to " + At(line->end.x, line->end.y);
+            } else if (const auto* polygon = dynamic_cast<const Polygon*>(piece.curve)) {
+                text += " polygon of " + Counted(polygon->points.size(), "point", "points");
+                for (const Point2d& point : polygon->points) {
+                    text += " " + At(point.x, point.y);
+                }
+            }
+            Line(depth, text);
+        }
+    }
+
+    void Contours(int depth, const ContourData& data)
+    {
+        Line(depth, "CONTOUR_ version " + std::to_string(data.version) + ", " +
+                        Counted(data.contours.size(), "contour", "contours"));
+        for (const Contour& contour : data.contours) {
+            Line(depth + 1, "contour " + std::to_string(contour.contourNumber) + ", " +
+                                Counted(contour.geoData.size(), "piece", "pieces"));
+            Pieces(depth + 2, contour.geoData);
+        }
+    }
+
+    void Cutouts(int depth, const CutoutData& data)
+    {
+        Line(depth, "CUTOUT__ version " + std::to_string(data.version) + ", " +
+                        Counted(data.cutouts.size(), "opening", "openings"));
+        for (const Cutout& cutout : data.cutouts) {
+            Line(depth + 1, "cutout " + std::to_string(cutout.cutoutNumber) + " " + Quoted(cutout.cutoutName) +
+                                ", value " + Number(cutout.cutoutValue) + ", " +
+                                Counted(cutout.geoData.size(), "piece", "pieces"));
+            Pieces(depth + 2, cutout.geoData);
+        }
+    }
+
+    void Parts(int depth, const MountingPartData& data)
+    {
+        Line(depth, "MOUNPART version " + std::to_string(data.version) + ", " +
+                        Counted(data.parts.size(), "part", "parts"));
+        for (const MountingPart& part : data.parts) {
+            Line(depth + 1, "part " + std::to_string(part.partNumber) + " " + Quoted(part.partName) + ", " +
+                                std::to_string(part.partWidth) + " x " + std::to_string(part.partHeight) +
+                                ", values " + std::to_string(part.setValue1) + " and " +
+                                std::to_string(part.setValue2) + ", " +
+                                Counted(part.geoData.size(), "piece", "pieces"));
+            Pieces(depth + 2, part.geoData);
+        }
+    }
+
+    void Bars(int depth, const RodstockData& data)
+    {
+        Line(depth, "RODSTOCK version " + std::to_string(data.version) + ", " + Counted(data.bars.size(), "bar", "bars"));
+        for (const Rodstock& bar : data.bars) {
+            std::string text = "bar " + std::to_string(bar.number) + " " + Quoted(bar.designation) + ", sizes " +
+                               std::to_string(bar.firstSize) + ", " + std::to_string(bar.secondSize) + ", " +
+                               std::to_string(bar.thirdSize) + ", at " +
+                               At(bar.position.x, bar.position.y, bar.positionZ) + ", rotation " +
+                               std::to_string(bar.rotation);
+            if (bar.bendingKind == L'2') {
+                std::size_t segments = 0;
+                for (const BendingFormPart& part : bar.freeForm.parts) {
+                    segments += part.segments.size();
+                }
+                text += ", bent in " + Counted(segments, "segment", "segments");
+            } else if (bar.bendingKind == L'1') {
+                text += ", bent in two forms";
+            }
+            Line(depth + 1, text);
+        }
+    }
+
+    void Girders(int depth, const BracedGirderData& data)
+    {
+        Line(depth, "BRGIRDER version " + std::to_string(data.version) + ", " +
+                        Counted(data.girders.size(), "girder", "girders"));
+        for (const BracedGirder& girder : data.girders) {
+            Line(depth + 1, "girder " + std::to_string(girder.number) + " " + Quoted(girder.designation) + ", type " +
+                                std::to_string(girder.typeNumber) + ", length " + std::to_string(girder.firstSize) +
+                                ", at " + At(girder.position.x, girder.position.y, girder.positionZ) +
+                                ", rotation " + std::to_string(girder.rotation));
+        }
+    }
+
+    void Irons(int depth, const ExternalIronData& data)
+    {
+        Line(depth, "EXTIRON_ version " + std::to_string(data.version) + ", " +
+                        Counted(data.irons.size(), "iron", "irons"));
+        for (const ExternalIron& iron : data.irons) {
+            Line(depth + 1, "iron " + std::to_string(iron.ironNumber) + " " + Quoted(iron.ironText) + ", code " +
+                                std::to_string(iron.ironCode) + ", count " + std::to_string(iron.ironCount) +
+                                ", value " + Number(iron.ironValue));
+        }
+    }
+
+    void Block(int depth, const Reinforcement& block)
+    {
+        Line(depth, "REFORCEM version " + std::to_string(block.version) + ", " + Counted(block.mats.size(), "mat", "mats"));
+        for (const Steelmat& mat : block.mats) {
+            Line(depth + 1, "STEELMAT version " + std::to_string(mat.version) + ", mat " + std::to_string(mat.number) +
+                                " " + Quoted(mat.name) + ", " + std::to_string(mat.firstDimension) + " x " +
+                                std::to_string(mat.secondDimension) + ", at " +
+                                At(mat.positionX, mat.positionY, mat.positionZ) + ", kind " +
+                                std::to_string(mat.matKind));
+            Bars(depth + 2, mat.rodstocks);
+            Girders(depth + 2, mat.girders);
+        }
+        if (block.hasExternalIrons && block.version > 5) {
+            Irons(depth + 1, block.externalIrons);
+        }
+    }
+
+    std::ostringstream out_;
+};
+
+} // namespace
+
+std::string TreeText(const std::vector<Order>& orders)
+{
+    Outline outline;
+    outline.Orders(orders);
+    return outline.Text();
+}
+
+} // namespace ItUnitechnik::Tree
