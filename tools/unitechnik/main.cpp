@@ -1,0 +1,17 @@
+// unitechnik: the registry of sub-commands. A sub-command is a file of its
+// own; adding one is adding that file and its line here.
+#include "command_line.h"
+
+namespace ItUnitechnik::Tool {
+std::unique_ptr<SubCommand> MakeBuildCommand();
+} // namespace ItUnitechnik::Tool
+
+int main(int argc, char** argv)
+{
+    using namespace ItUnitechnik::Tool;
+    return RunCommandLine(
+        {
+            MakeBuildCommand,
+        },
+        argc, argv);
+}

@@ -1,0 +1,494 @@
+#include "script/script.h"
+
+#include "sub_command.h"
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+namespace ItUnitechnik::Tool::Script {
+namespace {
+
+using nlohmann::json;
+
+std::string Quoted(const std::string& text)
+{
+    return "\"" + text + "\"";
+}
+
+std::string CallPlace(std::size_t index, const std::string& name)
+{
+    return "call " + std::to_string(index) + " (" + name + ")";
+}
+
+std::string KeyPlace(std::size_t index, const std::string& name, const std::string& key)
+{
+    return CallPlace(index, name) + ", key " + Quoted(key);
+}
+
+std::string Found(const json& value)
+{
+    switch (value.type()) {
+    case json::value_t::null:
+        return "null";
+    case json::value_t::boolean:
+        return "a boolean";
+    case json::value_t::number_integer:
+    case json::value_t::number_unsigned:
+    case json::value_t::number_float:
+        return "a number";
+    case json::value_t::string:
+        return "a string";
+    case json::value_t::array:
+        return "an array";
+    case json::value_t::object:
+        return "an object";
+    default:
+        return "a value of no JSON kind";
+    }
+}
+
+std::string Expected(ValueKind kind)
+{
+    switch (kind) {
+    case ValueKind::Integer:
+        return "an integer";
+    case ValueKind::Real:
+        return "a number";
+    case ValueKind::Boolean:
+        return "true or false";
+    case ValueKind::Text:
+        return "a string";
+    case ValueKind::Texts:
+        return "an array of strings";
+    case ValueKind::Integers:
+        return "an array of integers";
+    case ValueKind::Reals:
+        return "an array of numbers";
+    case ValueKind::Block:
+        return "an object";
+    case ValueKind::Blocks:
+        return "an array of objects";
+    }
+    return "a value";
+}
+
+bool KindFits(ValueKind kind, const json& value)
+{
+    switch (kind) {
+    case ValueKind::Integer:
+    case ValueKind::Real:
+        return value.is_number();
+    case ValueKind::Boolean:
+        return value.is_boolean();
+    case ValueKind::Text:
+        return value.is_string();
+    case ValueKind::Texts:
+    case ValueKind::Integers:
+    case ValueKind::Reals:
+    case ValueKind::Blocks:
+        return value.is_array();
+    case ValueKind::Block:
+        return value.is_object();
+    }
+    return false;
+}
+
+std::string Range(const IntegerType& type)
+{
+    return std::string(type.name) + " (" + std::to_string(type.least) + " to " + std::to_string(type.most) + ")";
+}
+
+// Reads the keys of one call against its entry in the call table.
+class CallReader {
+public:
+    CallReader(std::size_t index, const CallSpec& spec, std::int64_t& paddingLeft)
+        : index_(index), spec_(spec), paddingLeft_(paddingLeft)
+    {
+    }
+
+    Arguments Read(const json& call)
+    {
+        Arguments arguments;
+        for (const auto& [key, value] : call.items()) {
+            if (key != "call" && FindKey(spec_.keys, key) == nullptr) {
+                FailCall("unknown key " + Quoted(key));
+            }
+        }
+        for (const KeySpec& key : spec_.keys) {
+            const auto found = call.find(key.name);
+            if (found != call.end()) {
+                ReadKey(key, *found, key.name, arguments);
+            } else {
+                SetDefault(key, key.name, arguments);
+            }
+        }
+        for (const CountedList& counted : spec_.counted) {
+            Count(counted, arguments);
+        }
+        if (spec_.check != nullptr) {
+            if (const std::optional<Refusal> refusal = spec_.check(arguments)) {
+                Fail(refusal->key, refusal->reason);
+            }
+        }
+        return arguments;
+    }
+
+private:
+    [[noreturn]] void FailCall(const std::string& reason) const
+    {
+        throw BadInput(CallPlace(index_, spec_.name) + ": " + reason);
+    }
+
+    [[noreturn]] void Fail(const std::string& key, const std::string& reason) const
+    {
+        throw BadInput(KeyPlace(index_, spec_.name, key) + ": " + reason);
+    }
+
+    static const KeySpec* FindKey(const std::vector<KeySpec>& keys, const std::string& name)
+    {
+        for (const KeySpec& key : keys) {
+            if (key.name == name) {
+                return &key;
+            }
+        }
+        return nullptr;
+    }
+
+    // The spec of a key path such as "block.pointCount".
+    const KeySpec& SpecOf(const std::string& path) const
+    {
+        const std::size_t dot = path.find('.');
+        const KeySpec* key = FindKey(spec_.keys, path.substr(0, dot));
+        if (key != nullptr && dot != std::string::npos) {
+            key = FindKey(key->fields, path.substr(dot + 1));
+        }
+        if (key == nullptr) {
+            throw std::logic_error("the call table names no key " + path + " in " + spec_.name);
+        }
+        return *key;
+    }
+
+    std::int64_t ReadInteger(const IntegerType& type, const json& value, const std::string& path) const
+    {
+        if (!value.is_number()) {
+            Fail(path, "expected an integer, found " + Found(value));
+        }
+        if (value.is_number_float()) {
+            // A number with a fraction is no integer; one without (1e3) is,
+            // if it fits.
+            const double number = value.get<double>();
+            if (std::trunc(number) != number) {
+                Fail(path, value.dump() + " is not an integer");
+            }
+            if (number < static_cast<double>(type.least) || number > static_cast<double>(type.most)) {
+                Fail(path, value.dump() + " is out of range for " + Range(type));
+            }
+            return static_cast<std::int64_t>(number);
+        }
+        if (value.is_number_unsigned() && value.get<std::uint64_t>() > static_cast<std::uint64_t>(type.most)) {
+            Fail(path, value.dump() + " is out of range for " + Range(type));
+        }
+        const std::int64_t number = value.is_number_unsigned()
+                                        ? static_cast<std::int64_t>(value.get<std::uint64_t>())
+                                        : value.get<std::int64_t>();
+        if (number < type.least || number > type.most) {
+            Fail(path, value.dump() + " is out of range for " + Range(type));
+        }
+        return number;
+    }
+
+    HostText ReadText(const json& value, const std::string& path) const
+    {
+        if (!value.is_string()) {
+            Fail(path, "expected a string, found " + Found(value));
+        }
+        const std::optional<HostText> text = Utf8ToHost(value.get_ref<const std::string&>());
+        if (!text) {
+            Fail(path, "the string is no UTF-8");
+        }
+        if (text->find(it_char16(0)) != HostText::npos) {
+            Fail(path, "U+0000 cannot stand in a text: the export would end the text there");
+        }
+        return *text;
+    }
+
+    void ReadKey(const KeySpec& key, const json& value, const std::string& path, Arguments& arguments)
+    {
+        given_.insert(path);
+        if (!KindFits(key.kind, value)) {
+            Fail(path, "expected " + Expected(key.kind) + ", found " + Found(value));
+        }
+        switch (key.kind) {
+        case ValueKind::Integer:
+            arguments.Set(path, ReadInteger(*key.type, value, path));
+            break;
+        case ValueKind::Real:
+            arguments.Set(path, value.get<double>());
+            break;
+        case ValueKind::Boolean:
+            arguments.Set(path, value.get<bool>());
+            break;
+        case ValueKind::Text:
+            arguments.Set(path, ReadText(value, path));
+            break;
+        case ValueKind::Texts: {
+            if (value.size() > key.length) {
+                Fail(path, "holds " + std::to_string(value.size()) + " texts; " + spec_.name + " takes at most "
+                               + std::to_string(key.length));
+            }
+            std::vector<HostText> texts;
+            for (std::size_t i = 0; i < value.size(); ++i) {
+                texts.push_back(ReadText(value[i], path + "[" + std::to_string(i) + "]"));
+            }
+            texts.resize(key.length);
+            arguments.Set(path, std::move(texts));
+            break;
+        }
+        case ValueKind::Integers: {
+            if (key.length != 0 && value.size() > key.length) {
+                Fail(path, "holds " + std::to_string(value.size()) + " integers; " + spec_.name + " reads "
+                               + std::to_string(key.length));
+            }
+            std::vector<std::int32_t> integers;
+            for (std::size_t i = 0; i < value.size(); ++i) {
+                integers.push_back(
+                    static_cast<std::int32_t>(ReadInteger(*key.type, value[i], path + "[" + std::to_string(i) + "]")));
+            }
+            integers.resize(std::max(integers.size(), key.length), 0);
+            arguments.Set(path, std::move(integers));
+            break;
+        }
+        case ValueKind::Reals: {
+            if (value.size() > key.length) {
+                Fail(path, "holds " + std::to_string(value.size()) + " numbers; " + spec_.name + " reads "
+                               + std::to_string(key.length));
+            }
+            std::vector<double> reals;
+            for (std::size_t i = 0; i < value.size(); ++i) {
+                const std::string entry = path + "[" + std::to_string(i) + "]";
+                if (!value[i].is_number()) {
+                    Fail(entry, "expected a number, found " + Found(value[i]));
+                }
+                reals.push_back(value[i].get<double>());
+            }
+            reals.resize(key.length, 0.0);
+            arguments.Set(path, std::move(reals));
+            break;
+        }
+        case ValueKind::Block:
+            for (const auto& [name, field] : value.items()) {
+                if (FindKey(key.fields, name) == nullptr) {
+                    FailCall("unknown key " + Quoted(path + "." + name));
+                }
+            }
+            for (const KeySpec& field : key.fields) {
+                const auto found = value.find(field.name);
+                if (found != value.end()) {
+                    ReadKey(field, *found, path + "." + field.name, arguments);
+                } else {
+                    SetDefault(field, path + "." + field.name, arguments);
+                }
+            }
+            break;
+        case ValueKind::Blocks: {
+            Records records;
+            for (std::size_t i = 0; i < value.size(); ++i) {
+                const std::string entry = path + "[" + std::to_string(i) + "]";
+                const json& block = value[i];
+                if (!block.is_object()) {
+                    Fail(entry, "expected an object, found " + Found(block));
+                }
+                for (const auto& [name, field] : block.items()) {
+                    if (FindKey(key.fields, name) == nullptr) {
+                        FailCall("unknown key " + Quoted(entry + "." + name));
+                    }
+                }
+                std::vector<std::int64_t> fields;
+                for (const KeySpec& field : key.fields) {
+                    const auto found = block.find(field.name);
+                    fields.push_back(found == block.end()
+                                         ? 0
+                                         : ReadInteger(*field.type, *found, entry + "." + field.name));
+                }
+                records.push_back(std::move(fields));
+            }
+            arguments.Set(path, std::move(records));
+            break;
+        }
+        }
+    }
+
+    // A missing key is zero, an empty text or false; a list of a fixed
+    // length is that many zeros.
+    static void SetDefault(const KeySpec& key, const std::string& path, Arguments& arguments)
+    {
+        switch (key.kind) {
+        case ValueKind::Integer:
+            arguments.Set(path, std::int64_t{0});
+            break;
+        case ValueKind::Real:
+            arguments.Set(path, 0.0);
+            break;
+        case ValueKind::Boolean:
+            arguments.Set(path, false);
+            break;
+        case ValueKind::Text:
+            arguments.Set(path, HostText());
+            break;
+        case ValueKind::Texts:
+            arguments.Set(path, std::vector<HostText>(key.length));
+            break;
+        case ValueKind::Integers:
+            arguments.Set(path, std::vector<std::int32_t>(key.length, 0));
+            break;
+        case ValueKind::Reals:
+            arguments.Set(path, std::vector<double>(key.length, 0.0));
+            break;
+        case ValueKind::Block:
+            for (const KeySpec& field : key.fields) {
+                SetDefault(field, path + "." + field.name, arguments);
+            }
+            break;
+        case ValueKind::Blocks:
+            arguments.Set(path, Records());
+            break;
+        }
+    }
+
+    std::int64_t ListLength(const CountedList& counted, const Arguments& arguments) const
+    {
+        if (SpecOf(counted.list).kind == ValueKind::Blocks) {
+            return static_cast<std::int64_t>(arguments.Blocks(counted.list).size());
+        }
+        return static_cast<std::int64_t>(arguments.Integers(counted.list).size());
+    }
+
+    // A missing count is the length of its list; a list shorter than what
+    // the export reads for the count is padded with zeros.
+    void Count(const CountedList& counted, Arguments& arguments)
+    {
+        const std::int64_t length = ListLength(counted, arguments);
+        if (given_.count(counted.count) == 0) {
+            if (length % counted.entriesPerUnit != 0) {
+                Fail(counted.list, std::to_string(length) + " " + counted.entryName + " are no whole number of "
+                                       + counted.unitName + " (" + std::to_string(counted.entriesPerUnit)
+                                       + " each), so no count follows from them");
+            }
+            const std::int64_t count = length / counted.entriesPerUnit;
+            const IntegerType& type = *SpecOf(counted.count).type;
+            if (count > type.most) {
+                Fail(counted.count, "the " + std::to_string(count) + " " + counted.unitName + " of "
+                                        + Quoted(counted.list) + " are more than " + Range(type) + " holds");
+            }
+            arguments.Set(counted.count, count);
+        }
+        const std::int64_t reads = counted.reads(arguments);
+        if (reads <= length) {
+            return;
+        }
+        if (reads - length > paddingLeft_) {
+            Fail(counted.count, std::to_string(arguments.Integer(counted.count)) + " " + counted.unitName + " make "
+                                    + spec_.name + " read " + std::to_string(reads) + " " + counted.entryName
+                                    + " of " + Quoted(counted.list) + ", which holds " + std::to_string(length)
+                                    + ": padding passes the " + std::to_string(kMostPadding)
+                                    + " zeros a script may be padded with");
+        }
+        paddingLeft_ -= reads - length;
+        const auto size = static_cast<std::size_t>(reads);
+        if (SpecOf(counted.list).kind == ValueKind::Blocks) {
+            const std::size_t fields = SpecOf(counted.list).fields.size();
+            arguments.Blocks(counted.list).resize(size, std::vector<std::int64_t>(fields, 0));
+        } else {
+            arguments.Integers(counted.list).resize(size, 0);
+        }
+    }
+
+    std::size_t index_;
+    const CallSpec& spec_;
+    std::int64_t& paddingLeft_;
+    std::set<std::string> given_;
+};
+
+} // namespace
+
+std::vector<Call> ReadCalls(const json& script)
+{
+    if (!script.is_object()) {
+        throw BadInput("expected an object with \"calls\", found " + Found(script));
+    }
+    for (const auto& [key, value] : script.items()) {
+        if (key != "calls") {
+            throw BadInput("unknown key " + Quoted(key) + " (a call script holds \"calls\" only)");
+        }
+    }
+    const auto found = script.find("calls");
+    if (found == script.end()) {
+        throw BadInput("the key \"calls\" is missing");
+    }
+    if (!found->is_array()) {
+        throw BadInput("key \"calls\": expected an array, found " + Found(*found));
+    }
+
+    std::vector<Call> calls;
+    std::int64_t paddingLeft = kMostPadding;
+    for (std::size_t index = 0; index < found->size(); ++index) {
+        const json& call = (*found)[index];
+        const std::string place = "call " + std::to_string(index);
+        if (!call.is_object()) {
+            throw BadInput(place + ": expected an object, found " + Found(call));
+        }
+        const auto name = call.find("call");
+        if (name == call.end()) {
+            throw BadInput(place + ": the key \"call\" is missing");
+        }
+        if (!name->is_string()) {
+            throw BadInput(place + ", key \"call\": expected a string, found " + Found(*name));
+        }
+        const std::string& callName = name->get_ref<const std::string&>();
+        if (callName == kFreeCall) {
+            throw BadInput(place + ": " + callName
+                           + " is no call of a script: the tool gives every result of "
+                             "getFullReinforcementString back through it itself");
+        }
+        const CallSpec* spec = FindCall(callName);
+        if (spec == nullptr) {
+            throw BadInput(place + ": unknown call " + Quoted(callName));
+        }
+        calls.push_back(Call{index, spec, CallReader(index, *spec, paddingLeft).Read(call)});
+    }
+    return calls;
+}
+
+void RedirectLastDocument(std::vector<Call>& calls, const std::string& path)
+{
+    const std::optional<HostText> text = Utf8ToHost(path);
+    if (!text || text->empty()) {
+        throw BadInput("-o: \"" + path + "\" is no file name");
+    }
+    for (auto call = calls.rbegin(); call != calls.rend(); ++call) {
+        if (call->spec->pathKey != nullptr) {
+            call->arguments.Set(call->spec->pathKey, *text);
+            return;
+        }
+    }
+    const CallSpec* end = FindCall("endDocument");
+    Arguments arguments;
+    arguments.Set(end->pathKey, *text);
+    calls.push_back(Call{calls.size(), end, std::move(arguments)});
+}
+
+void CheckPaths(const std::vector<Call>& calls)
+{
+    for (const Call& call : calls) {
+        if (call.spec->pathKey != nullptr && call.arguments.Text(call.spec->pathKey).empty()) {
+            throw BadInput(KeyPlace(call.index, call.spec->name, call.spec->pathKey)
+                           + ": no file name (give one, or -o FILE for the last endDocument)");
+        }
+    }
+}
+
+} // namespace ItUnitechnik::Tool::Script
