@@ -1,5 +1,6 @@
 // unitechnik build SCRIPT.json [-o FILE] [--trace FILE|-]: runs a call script
 // through the library's own exports, in this process, in order.
+#include "build_document.h"
 #include "files.h"
 #include "json_input.h"
 #include "script/runner.h"
@@ -95,7 +96,14 @@ public:
         // one writes nothing.
         std::vector<Call> calls;
         try {
-            calls = Script::ReadCalls(ParseJsonText(*text));
+            const nlohmann::json input = ParseJsonText(*text);
+            if (input.is_object() && input.contains("document")) {
+                // A dumped document goes through the records' own Write.
+                BuildDocument(input, outputPath_);
+                Print(stdout, "wrote " + outputPath_ + "\n");
+                return kDone;
+            }
+            calls = Script::ReadCalls(input);
         } catch (const BadInput& e) {
             throw BadInput(scriptPath_ + ": " + e.what());
         }

@@ -1,8 +1,7 @@
 // unitechnik dump FILE [--json | --tree]: a file read tolerantly, printed as
 // its record tree.
-#include "reading/tolerant_reading.h"
+#include "document_input.h"
 #include "sub_command.h"
-#include "tool_files.h"
 #include "tree/tree_json.h"
 #include "tree/tree_text.h"
 
@@ -32,7 +31,7 @@ public:
 
     int Run() override
     {
-        const TolerantDocument document = ReadTolerantly(ReadFileOrThrow(input_));
+        const TolerantDocument document = ReadDocumentFile(input_);
         std::vector<Order> orders = document.orders;
         if (tree_) {
             std::cout << Tree::TreeText(orders);

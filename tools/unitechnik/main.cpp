@@ -4,6 +4,7 @@
 
 namespace ItUnitechnik::Tool {
 std::unique_ptr<SubCommand> MakeBuildCommand();
+std::unique_ptr<SubCommand> MakeDumpCommand();
 } // namespace ItUnitechnik::Tool
 
 int main(int argc, char** argv)
@@ -12,6 +13,7 @@ int main(int argc, char** argv)
     return RunCommandLine(
         {
             MakeBuildCommand,
+            MakeDumpCommand,
         },
         argc, argv);
 }

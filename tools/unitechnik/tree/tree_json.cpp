@@ -1,6 +1,7 @@
 #include "tree/tree_json.h"
 
 #include "platform/platform.h"
+#include "unicode.h"
 #include "tree/record_fields.h"
 
 #include <cmath>
@@ -23,22 +24,13 @@ std::string Utf8(const std::wstring& text)
 
 std::wstring WideFromUtf8(const std::string& text)
 {
-    // The JSON reader has checked the UTF-8 already.
+    // The JSON reader has checked the UTF-8 already; each 16-bit unit is one
+    // wide character, as the exports take a host's text.
+    const std::optional<Tool::HostText> units = Tool::Utf8ToHost(text);
     std::wstring wide;
-    for (std::size_t i = 0; i < text.size();) {
-        const auto lead = static_cast<unsigned char>(text[i]);
-        const int extra = lead < 0x80 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
-        unsigned long code = extra == 0 ? lead : lead & (0x3Fu >> extra);
-        for (int k = 1; k <= extra && i + k < text.size(); ++k) {
-            code = (code << 6) | (static_cast<unsigned char>(text[i + k]) & 0x3Fu);
-        }
-        i += static_cast<std::size_t>(extra) + 1;
-        if (code > 0xFFFF) {
-            code -= 0x10000;
-            wide += static_cast<wchar_t>(0xD800 + (code >> 10));
-            wide += static_cast<wchar_t>(0xDC00 + (code & 0x3FF));
-        } else {
-            wide += static_cast<wchar_t>(code);
+    if (units) {
+        for (const it_char16 unit : *units) {
+            wide += static_cast<wchar_t>(unit);
         }
     }
     return wide;

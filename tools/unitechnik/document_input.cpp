@@ -1,24 +1,17 @@
-#include "tool_files.h"
+#include "document_input.h"
 
+#include "files.h"
 #include "sub_command.h"
-
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 
 namespace ItUnitechnik::Tool {
 
-std::string ReadFileOrThrow(const std::string& path)
+TolerantDocument ReadDocumentFile(const std::string& path)
 {
-    std::ifstream file(std::filesystem::u8path(path), std::ios::binary);
-    if (!file) {
-        throw FileError(path + ": cannot be read");
+    const std::optional<std::string> bytes = ReadWholeFile(path);
+    if (!bytes) {
+        throw FileError("cannot read \"" + path + "\"");
     }
-    std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-    if (file.bad()) {
-        throw FileError(path + ": cannot be read");
-    }
-    return bytes;
+    return ReadTolerantly(*bytes);
 }
 
 std::string StopMessage(const std::string& path, const ReadStop& stop)
