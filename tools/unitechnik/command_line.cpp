@@ -64,6 +64,7 @@ int RunCommandLine(std::initializer_list<SubCommandMaker> subCommands, int argc,
 #ifdef _WIN32
     // What the tool prints is the same bytes as on Linux: no CR before LF.
     _setmode(_fileno(stdout), _O_BINARY);
+    _setmode(_fileno(stderr), _O_BINARY);
 #endif
     CLI::App app("unitechnik: makes and reads Unitechnik CAD/CAM files through the ItUnitechnik library",
                  "unitechnik");
