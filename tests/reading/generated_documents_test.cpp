@@ -160,7 +160,7 @@ void Reinforcement(Generator& g)
                     g.Between(0, 2), g.Between(-70000, 70000), position);
         for (int bars = g.Between(0, 3); bars > 0; --bars) {
             static const int codes[] = {0, 1, 10, 11, 20, 100, 110, 120, 200, 999};
-            const int32_t at[2] = {g.Coordinate(), g.Coordinate()};
+            const int32_t at[3] = {g.Coordinate(), g.Coordinate(), g.Between(-999, 999)};
             addCFSRodstock(g.Between(0, 12), g.Host(g.Text(12)), g.Between(0, 99999), g.Between(0, 999),
                            g.Between(-999, 99999), at, g.Between(-999, 999), g.Between(-999, 999),
                            g.Host(g.Text(12)), g.Between(0, 1), g.Between(0, 999), g.Between(0, 99999),
