@@ -349,7 +349,8 @@ namespace ItUnitechnik
             CheckOpen();
             var count = (ushort)RequirePoints(points, "points", ushort.MaxValue).Count;
             using (var texts = new HostTexts()) {
-                var block = new ItCutoutBlock { cutoutName = texts.Add(name, "name"), cutoutValue = value, pointCount = count };
+                var block = new ItCutoutBlock {
+                    cutoutName = texts.Add(name, "name"), cutoutValue = value, pointCount = count };
                 NativeMethods.addCutout(ref block, Flatten(points));
             }
         }

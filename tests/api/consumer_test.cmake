@@ -12,7 +12,8 @@
 # find_package; PKG_CONFIG compiles consumer.c and consumer.cpp with the flags
 # of `pkg-config --cflags --libs itunitechnik`; PYTHON writes a document
 # through the installed Python package. Each program writes a document, which
-# must begin with "HEADER__" and CR LF.
+# must begin with "HEADER__" and CR LF; they make the same calls, so all their
+# documents must be the same.
 cmake_minimum_required(VERSION 3.25)
 foreach(var MODE BUILD_DIR SOURCE_DIR WORK_DIR LIBDIR MAJOR)
     if(NOT DEFINED ${var} OR "${${var}}" STREQUAL "")
@@ -132,3 +133,16 @@ if(PYTHON)
         ${PYTHON} ${SOURCE_DIR}/consumer.py ${WORK_DIR}/python.txt)
     expect_document("the installed Python package" ${WORK_DIR}/python.txt)
 endif()
+
+# Every host here makes the same calls: the same document.
+file(GLOB documents ${WORK_DIR}/*.txt)
+set(first "")
+foreach(document IN LISTS documents)
+    file(SHA256 ${document} hash)
+    if(first STREQUAL "")
+        set(first ${hash})
+        set(first_name ${document})
+    elseif(NOT hash STREQUAL first)
+        message(FATAL_ERROR "${document} differs from ${first_name}: the hosts make the same calls")
+    endif()
+endforeach()

@@ -143,7 +143,6 @@ static class BindingTests
             SameText(document.ReinforcementSummary(), "reinforced/summary-none.txt");
         }
         ExampleSlab(cExample);
-        Minimal();
         Reinforced();
         Slab();
         DocumentRules();
@@ -255,26 +254,6 @@ static class BindingTests
         }
         SameBytes(File.ReadAllBytes(path), File.ReadAllBytes(cExample),
             "the example slab equals the C example host's " + cExample);
-    }
-
-    // The README's example: the least a plug-in writes.
-    static void Minimal()
-    {
-        string path = Path.Combine(work, "minimal.uni");
-        string summary;
-        using (var document = new Document()) {
-            var placement = new Placement(new Point3(0, 0, 0), new Point3(6000, 0, 0), new Point3(0, 2400, 0));
-            document.StartOrder(1, 101, placement, 600, "Floor slab", 1.25);
-            document.AddContour(new[] {
-                new Point(0, 0), new Point(6000, 0), new Point(6000, 2400), new Point(0, 2400), new Point(0, 0) });
-            document.AddSteelmat("Q188A", 5800, 2200, true, false, 1, 100, 100, 35);
-            document.Write(path);
-            summary = document.ReinforcementSummary();
-        }
-        var bytes = File.ReadAllBytes(path);
-        Check(Encoding.ASCII.GetString(bytes, 0, 10) == "HEADER__\r\n", "the minimal document begins with HEADER__");
-        Check(summary.StartsWith("MOUNPART\n") && summary.Contains("STEELMAT\n"),
-            "the minimal summary has its records and bare line feeds");
     }
 
     static void ReinforcedStart(Document document, ushort version)

@@ -14,20 +14,6 @@ def test_example_slab_equals_the_c_example_host(tmp_path, c_example):
     assert "STEELMAT\n" in summary
 
 
-def test_minimal_document(tmp_path):
-    # The README's example.
-    with unitechnik.Document(tmp_path / "slab.uni") as document:
-        document.start_order(order_value=1, element_number=101,
-                             placement=[(0, 0, 0), (6000, 0, 0), (0, 2400, 0)],
-                             version=600, element_text="Floor slab", element_measure=1.25)
-        document.add_contour(points=[(0, 0), (6000, 0), (6000, 2400), (0, 2400), (0, 0)])
-        document.add_steelmat(name="Q188A", first_dimension=5800, second_dimension=2200,
-                              first_flag=True, second_flag=False, mat_kind=1, position=(100, 100, 35))
-        summary = document.summary()
-    assert (tmp_path / "slab.uni").read_bytes().startswith(b"HEADER__\r\n600\r\n")
-    assert summary.startswith("MOUNPART\n") and "STEELMAT\n" in summary
-
-
 @pytest.mark.parametrize("version", [502, 600])
 def test_reinforced_scenario(tmp_path, expected, version):
     path = tmp_path / ("reinforced-%d.txt" % version)
