@@ -19,6 +19,10 @@
 #include <stdbool.h>
 #endif
 
+/* ITUNITECHNIK_VERSION_MAJOR, _MINOR, _PATCH and _STRING: the version of the
+ * library this header belongs to. */
+#include "itunitechnik_version.h"
+
 #if defined(_WIN32)
 #  if defined(ITUNITECHNIK_BUILDING)
 #    define ITUNITECHNIK_API __declspec(dllexport)

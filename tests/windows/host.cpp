@@ -9,6 +9,7 @@
 // list does not name yet are passed over if the DLL lacks them.
 
 #include "itunitechnik.h"
+#include "checks.h"
 
 #ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN
@@ -27,31 +28,12 @@
 #include <utility>
 #include <vector>
 
+using ItUnitechnik::Testing::Check;
+using ItUnitechnik::Testing::failed;
+using ItUnitechnik::Testing::Narrow;
+using ItUnitechnik::Testing::passed;
+
 namespace {
-
-int passed = 0;
-int failed = 0;
-
-void Check(bool ok, const std::string& what)
-{
-    if (ok) {
-        ++passed;
-        std::printf("ok      %s\n", what.c_str());
-    } else {
-        ++failed;
-        std::printf("FAILED  %s\n", what.c_str());
-    }
-    std::fflush(stdout);
-}
-
-std::string Narrow(const std::wstring& text)
-{
-    std::string out;
-    for (wchar_t c : text) {
-        out += c < 0x80 ? static_cast<char>(c) : '?';
-    }
-    return out;
-}
 
 std::string ReadBytes(const std::wstring& path)
 {

@@ -1,0 +1,46 @@
+"""What the tests of the Python package share. CTest gives the places by the
+environment: the golden files, the C example host's slab of the same build,
+the layout program, and (through ITUNITECHNIK_LIBRARY) the library."""
+import os
+import pathlib
+import subprocess
+import sys
+
+import pytest
+
+REPOSITORY = pathlib.Path(__file__).resolve().parents[3]
+
+
+def _place(variable):
+    value = os.environ.get(variable)
+    if not value:
+        pytest.fail("%s is not set: run the tests through ctest" % variable)
+    return pathlib.Path(value)
+
+
+@pytest.fixture
+def expected():
+    """The golden files of tests/functional."""
+    return _place("UNITECHNIK_TEST_EXPECTED")
+
+
+@pytest.fixture
+def c_example():
+    """The example slab as examples/slab_host.c writes it in this build."""
+    return _place("UNITECHNIK_TEST_C_EXAMPLE")
+
+
+@pytest.fixture
+def layout_program():
+    return _place("UNITECHNIK_TEST_LAYOUT")
+
+
+@pytest.fixture
+def export_list():
+    return REPOSITORY / "src" / "exports" / "export_list.txt"
+
+
+def run_python(code, env=None):
+    """Runs code in a fresh interpreter, for what needs a library that holds
+    nothing yet or a package found in another place."""
+    return subprocess.run([sys.executable, "-c", code], env=env, capture_output=True, text=True)
