@@ -1,0 +1,256 @@
+// The library's speed through its exports: each adder at n = 1k to 64k, the
+// document file against one buffered write of the same bytes, the summary
+// string against a copy of its text, and the peak memory of a large element.
+// At the end it prints the ratios that the goals are stated in.
+#include "workload.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace ItUnitechnik::Bench;
+
+constexpr int64_t smallestCount = 1 << 10;
+constexpr int64_t largestCount = 1 << 16;
+// Every adder runs on an element that already has an outline of this many
+// points: what an add costs beside a large outline.
+constexpr int32_t backgroundPoints = 10000;
+
+std::unique_ptr<ScratchDirectory> scratch;
+std::string documentPath;
+std::string rawPath;
+std::string documentBytes; // what endDocument wrote for the large element
+bool largeElementInPlace = false;
+
+void EnsureLargeElement()
+{
+    if (!largeElementInPlace) {
+        BuildLargeElement();
+        largeElementInPlace = true;
+    }
+}
+
+void RunAdder(benchmark::State& state, void (*add)(int32_t), void (*prepare)())
+{
+    const int32_t n = static_cast<int32_t>(state.range(0));
+    const std::vector<int32_t> outline = OutlinePoints(backgroundPoints);
+    for (auto _ : state) {
+        state.PauseTiming();
+        StartDocument();
+        largeElementInPlace = false;
+        addContour(backgroundPoints, outline.data());
+        if (prepare != nullptr) {
+            prepare();
+        }
+        state.ResumeTiming();
+        for (int32_t i = 0; i < n; ++i) {
+            add(i);
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * n);
+}
+
+void OneMat()
+{
+    AddOneSteelmat(0);
+}
+
+struct Adder {
+    const char* name;
+    void (*add)(int32_t);
+    void (*prepare)();
+};
+
+const Adder adders[] = {
+    {"startOrder", StartOneMoreOrder, nullptr},
+    {"addLayer", AddOneLayer, nullptr},
+    {"addContour", AddOneContour, nullptr},
+    {"addCutout", AddOneCutout, nullptr},
+    {"addSet/part", AddOneMountingPart, nullptr},
+    {"addSet/girder", AddOneGirder, nullptr},
+    {"addSteelmat", AddOneSteelmat, nullptr},
+    {"addCFSRodstock", AddOneCfsRodstock, OneMat},
+    {"addStraightRodstock", AddOneStraightRodstock, nullptr},
+    {"addFreeFormRodstock", AddOneFreeFormRodstock, nullptr},
+    {"addExtIron", AddOneExternalIron, nullptr},
+};
+
+void EndDocument(benchmark::State& state)
+{
+    EnsureLargeElement();
+    const std::u16string path = HostPath(documentPath);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(endDocument(reinterpret_cast<const it_char16*>(path.c_str())));
+    }
+    state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(documentBytes.size()));
+}
+
+// One buffered write of the identical bytes: open, write, close.
+void RawWrite(benchmark::State& state)
+{
+    for (auto _ : state) {
+        std::FILE* file = std::fopen(rawPath.c_str(), "wb");
+        std::fwrite(documentBytes.data(), 1, documentBytes.size(), file);
+        std::fclose(file);
+    }
+    state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(documentBytes.size()));
+}
+
+std::size_t UnitCount(const it_char16* text)
+{
+    std::size_t n = 0;
+    while (text[n] != 0) {
+        ++n;
+    }
+    return n;
+}
+
+void SummaryString(benchmark::State& state)
+{
+    EnsureLargeElement();
+    for (auto _ : state) {
+        it_char16* text = getFullReinforcementString();
+        benchmark::DoNotOptimize(text);
+        freeFullReinforcementString(text);
+    }
+}
+
+// The same text copied once into a fresh block of the host's kind.
+void SummaryCopy(benchmark::State& state)
+{
+    EnsureLargeElement();
+    it_char16* text = getFullReinforcementString();
+    const std::size_t bytes = (UnitCount(text) + 1) * sizeof(it_char16);
+    for (auto _ : state) {
+        void* block = std::malloc(bytes);
+        std::memcpy(block, text, bytes);
+        benchmark::DoNotOptimize(block);
+        benchmark::ClobberMemory();
+        std::free(block);
+    }
+    freeFullReinforcementString(text);
+}
+
+// Keeps the real time per iteration of every run, in nanoseconds: the median
+// when runs are repeated.
+class RatioReporter : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        ConsoleReporter::ReportRuns(runs);
+        for (const Run& run : runs) {
+            const bool single = run.run_type == Run::RT_Iteration && run.repetitions <= 1;
+            const bool median = run.run_type == Run::RT_Aggregate && run.aggregate_name == "median";
+            if (run.error_occurred || (!single && !median)) {
+                continue;
+            }
+            const double seconds = run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit);
+            std::string name = run.run_name.function_name;
+            if (!run.run_name.args.empty()) {
+                name += "/" + run.run_name.args;
+            }
+            times[name] = seconds * 1e9;
+        }
+    }
+
+    std::map<std::string, double> times;
+};
+
+void PrintRatios(const RatioReporter& reporter, std::size_t fileBytes, std::size_t peakBytes,
+                 std::size_t startBytes)
+{
+    auto time = [&reporter](const std::string& name) {
+        auto found = reporter.times.find(name);
+        return found == reporter.times.end() ? 0.0 : found->second;
+    };
+    std::printf("\nRatios (goal in brackets)\n");
+    std::printf("%-22s", "adder t(2n)/t(n)  n =");
+    for (int64_t n = smallestCount; n < largestCount; n *= 2) {
+        std::printf(" %6lldk", static_cast<long long>(n / 1024));
+    }
+    std::printf("    max  [<= 2.2]\n");
+    for (const Adder& adder : adders) {
+        std::printf("%-22s", adder.name);
+        double worst = 0;
+        for (int64_t n = smallestCount; n < largestCount; n *= 2) {
+            const double small = time(std::string(adder.name) + "/" + std::to_string(n));
+            const double large = time(std::string(adder.name) + "/" + std::to_string(2 * n));
+            if (small > 0 && large > 0) {
+                const double ratio = large / small;
+                worst = std::max(worst, ratio);
+                std::printf(" %7.2f", ratio);
+            } else {
+                std::printf(" %7s", "-");
+            }
+        }
+        std::printf("  %5.2f\n", worst);
+    }
+    const double written = time("endDocument");
+    const double raw = time("rawWrite");
+    if (written > 0 && raw > 0) {
+        std::printf("endDocument / buffered fwrite of the same %zu bytes: %.1f ms / %.2f ms = %.2f  [<= 5]\n",
+                    fileBytes, written / 1e6, raw / 1e6, written / raw);
+    }
+    const double summary = time("getFullReinforcementString");
+    const double copy = time("copyOfSummaryText");
+    if (summary > 0 && copy > 0) {
+        std::printf("getFullReinforcementString / copy of its text: %.2f ms / %.3f ms = %.2f  [<= 5]\n",
+                    summary / 1e6, copy / 1e6, summary / copy);
+    }
+    const double goal = 3.0 * static_cast<double>(fileBytes) + 10.0 * 1024 * 1024;
+    std::printf("peak resident set with the large element written: %.1f MB (%.1f MB before it) for a file "
+                "of %.1f MB; goal 3 x file + 10 MB = %.1f MB; ratio %.2f  [<= 1]\n",
+                static_cast<double>(peakBytes) / 1048576.0, static_cast<double>(startBytes) / 1048576.0,
+                static_cast<double>(fileBytes) / 1048576.0, goal / 1048576.0,
+                static_cast<double>(peakBytes) / goal);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+        return 1;
+    }
+    scratch = std::make_unique<ScratchDirectory>();
+    documentPath = scratch->File("large.uni");
+    rawPath = scratch->File("raw.uni");
+
+    // The memory first, before any other benchmark has grown the process:
+    // build the large element, write it and take its summary.
+    const std::size_t startBytes = PeakResidentBytes();
+    EnsureLargeElement();
+    const std::u16string path = HostPath(documentPath);
+    endDocument(reinterpret_cast<const it_char16*>(path.c_str()));
+    freeFullReinforcementString(getFullReinforcementString());
+    const std::size_t peakBytes = PeakResidentBytes();
+    documentBytes = ReadBytes(documentPath);
+
+    benchmark::RegisterBenchmark("endDocument", EndDocument)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("rawWrite", RawWrite)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("getFullReinforcementString", SummaryString)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("copyOfSummaryText", SummaryCopy)->Unit(benchmark::kMillisecond);
+    for (const Adder& adder : adders) {
+        benchmark::RegisterBenchmark(adder.name, RunAdder, adder.add, adder.prepare)
+            ->RangeMultiplier(2)
+            ->Range(smallestCount, largestCount)
+            ->Unit(benchmark::kMillisecond);
+    }
+
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    PrintRatios(reporter, documentBytes.size(), peakBytes, startBytes);
+    benchmark::Shutdown();
+    scratch.reset();
+    return 0;
+}
