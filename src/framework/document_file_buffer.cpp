@@ -1,11 +1,18 @@
 #include "framework/document_file_buffer.h"
 
 namespace ItUnitechnik {
-namespace {
-constexpr std::size_t pendingLimit = 4096;
-}
 
-DocumentFileBuffer::DocumentFileBuffer(const std::wstring& path) : file_(path) {}
+DocumentFileBuffer::DocumentFileBuffer(const std::wstring& path, std::size_t areaSize)
+    : file_(path), areaSize_(areaSize > 0 ? areaSize : 1)
+{
+    // Without a file there is no area: the first character goes to overflow
+    // and fails there.
+    if (file_.IsOpen()) {
+        area_ = std::make_unique<wchar_t[]>(areaSize_);
+        bytes_ = std::make_unique<char[]>(2 * areaSize_);
+        ResetArea();
+    }
+}
 
 DocumentFileBuffer::~DocumentFileBuffer()
 {
@@ -19,60 +26,88 @@ bool DocumentFileBuffer::IsOpen() const
 
 void DocumentFileBuffer::Close()
 {
-    WritePending();
+    if (file_.IsOpen()) {
+        Drain();
+    }
     file_.Close();
 }
 
-bool DocumentFileBuffer::Put(wchar_t c)
+bool DocumentFileBuffer::FitsAByte(wchar_t c)
 {
-    const unsigned long code = static_cast<unsigned long>(c);
-    if (broken_ || !file_.IsOpen() || code > 0xFF) {
-        broken_ = true;
-        return false;
-    }
-    if (c == L'\n') {
-        pending_ += '\r';
-    }
-    pending_ += static_cast<char>(static_cast<unsigned char>(code));
-    if (pending_.size() >= pendingLimit) {
-        return WritePending();
-    }
-    return true;
+    return static_cast<unsigned long>(c) <= 0xFF;
 }
 
-bool DocumentFileBuffer::WritePending()
+void DocumentFileBuffer::ResetArea()
 {
-    if (pending_.empty()) {
-        return !broken_;
+    setp(area_.get(), area_.get() + areaSize_);
+    scanned_ = area_.get();
+}
+
+bool DocumentFileBuffer::Drain()
+{
+    const wchar_t* first = pbase();
+    const wchar_t* const last = pptr();
+    ResetArea();
+    if (broken_) {
+        // What stands in the area came after the character that broke the
+        // file.
+        return false;
     }
-    const bool written = file_.Write(pending_.data(), pending_.size());
-    pending_.clear();
-    if (!written) {
+    char* const start = bytes_.get();
+    char* out = start;
+    for (; first != last; ++first) {
+        const wchar_t c = *first;
+        if (!FitsAByte(c)) {
+            broken_ = true;
+            break;
+        }
+        if (c == L'\n') {
+            *out++ = '\r';
+        }
+        *out++ = static_cast<char>(static_cast<unsigned char>(c));
+    }
+    if (out != start && !file_.Write(start, static_cast<std::size_t>(out - start))) {
         broken_ = true;
     }
-    return written;
+    return !broken_;
 }
 
 DocumentFileBuffer::int_type DocumentFileBuffer::overflow(int_type c)
 {
+    if (!file_.IsOpen()) {
+        broken_ = true;
+        return traits_type::eof();
+    }
+    if (!Drain()) {
+        return traits_type::eof();
+    }
     if (traits_type::eq_int_type(c, traits_type::eof())) {
-        return sync() == 0 ? traits_type::not_eof(c) : traits_type::eof();
+        return traits_type::not_eof(c);
     }
-    return Put(traits_type::to_char_type(c)) ? c : traits_type::eof();
-}
-
-std::streamsize DocumentFileBuffer::xsputn(const wchar_t* s, std::streamsize n)
-{
-    std::streamsize done = 0;
-    while (done < n && Put(s[done])) {
-        ++done;
+    const wchar_t character = traits_type::to_char_type(c);
+    if (!FitsAByte(character)) {
+        broken_ = true;
+        return traits_type::eof();
     }
-    return done;
+    *pptr() = character;
+    pbump(1);
+    return c;
 }
 
 int DocumentFileBuffer::sync()
 {
-    return WritePending() ? 0 : -1;
+    if (broken_) {
+        return -1;
+    }
+    for (const wchar_t* p = scanned_; p != pptr(); ++p) {
+        if (!FitsAByte(*p)) {
+            // The bytes before it go to the file now; the file is broken.
+            Drain();
+            return -1;
+        }
+    }
+    scanned_ = pptr();
+    return 0;
 }
 
 } // namespace ItUnitechnik
