@@ -1,14 +1,183 @@
 #include "framework/field_forms.h"
 
+#include "framework/real_format.h"
+
+#include <algorithm>
+
 namespace ItUnitechnik {
+namespace Fields {
 namespace {
 
-std::wstring FirstCharacters(const std::wstring& value, int width)
+// The mark of a stream whose number formats are the classic ones.
+int PlainDigitsIndex()
+{
+    static const int index = std::ios_base::xalloc();
+    return index;
+}
+
+void ForgetPlainDigits(std::ios_base::event happened, std::ios_base& stream, int index)
+{
+    if (happened == std::ios_base::imbue_event) {
+        stream.iword(index) = 0;
+    }
+}
+
+// What the inserters do when the buffer throws: the stream goes bad, and the
+// exception goes on only if the stream's mask asks for it.
+void MarkBad(std::wostream& os)
+{
+    if ((os.exceptions() & std::ios_base::badbit) != 0) {
+        try {
+            os.setstate(std::ios_base::badbit);
+        } catch (...) {
+        }
+        throw;
+    }
+    os.setstate(std::ios_base::badbit);
+}
+
+bool Put(std::wstreambuf* buffer, const wchar_t* text, std::size_t length)
+{
+    const auto count = static_cast<std::streamsize>(length);
+    return buffer->sputn(text, count) == count;
+}
+
+bool PutFill(std::wstreambuf* buffer, wchar_t fill, std::size_t count)
+{
+    wchar_t chunk[64];
+    std::fill_n(chunk, std::min<std::size_t>(count, 64), fill);
+    while (count > 0) {
+        const std::size_t part = std::min<std::size_t>(count, 64);
+        if (!Put(buffer, chunk, part)) {
+            return false;
+        }
+        count -= part;
+    }
+    return true;
+}
+
+// The characters of one field with the stream's width, fill and adjustment,
+// as the inserters pad them: behind the text for `left`; between the first
+// `prefix` characters (a sign) and the rest for `internal`; in front of the
+// text for any other adjustment. Behind a sentry, the width used up.
+void PutPadded(std::wostream& os, const wchar_t* text, std::size_t length, std::size_t prefix)
+{
+    const std::wostream::sentry guard(os);
+    if (!guard) {
+        return;
+    }
+    try {
+        const std::streamsize width = os.width();
+        const std::size_t padding =
+            width > static_cast<std::streamsize>(length) ? static_cast<std::size_t>(width) - length : 0;
+        os.width(0);
+        std::wstreambuf* const buffer = os.rdbuf();
+        bool written = true;
+        if (padding == 0) {
+            written = Put(buffer, text, length);
+        } else {
+            const std::ios_base::fmtflags adjust = os.flags() & std::ios_base::adjustfield;
+            std::size_t before = 0; // characters of the text in front of the fill
+            if (adjust == std::ios_base::left) {
+                before = length;
+            } else if (adjust == std::ios_base::internal) {
+                before = prefix;
+            }
+            wchar_t line[128];
+            if (length + padding <= 128) {
+                std::copy(text, text + before, line);
+                std::fill_n(line + before, padding, os.fill());
+                std::copy(text + before, text + length, line + before + padding);
+                written = Put(buffer, line, length + padding);
+            } else {
+                written = Put(buffer, text, before) && PutFill(buffer, os.fill(), padding)
+                          && Put(buffer, text + before, length - before);
+            }
+        }
+        if (!written) {
+            os.setstate(std::ios_base::badbit);
+        }
+    } catch (...) {
+        MarkBad(os);
+    }
+}
+
+// A narrow ASCII literal, widened one character each.
+void PutLiteral(std::wostream& os, const char* text)
+{
+    wchar_t wide[64];
+    std::size_t length = 0;
+    while (text[length] != '\0' && length < 64) {
+        wide[length] = static_cast<wchar_t>(static_cast<unsigned char>(text[length]));
+        ++length;
+    }
+    PutPadded(os, wide, length, 0);
+}
+
+} // namespace
+
+void KeepPlainDigits(std::ios_base& stream)
+{
+    stream.iword(PlainDigitsIndex()) = 1;
+    stream.register_callback(ForgetPlainDigits, PlainDigitsIndex());
+}
+
+bool PlainDigits(std::ios_base& stream)
+{
+    return stream.iword(PlainDigitsIndex()) == 1;
+}
+
+bool PutInteger(std::wostream& os, const IntegerValue& value, bool hexadecimal)
+{
+    if (!PlainDigits(os)) {
+        return false;
+    }
+    const std::ios_base::fmtflags flags = os.flags();
+    const std::ios_base::fmtflags base = flags & std::ios_base::basefield;
+    if (hexadecimal ? (flags & std::ios_base::showbase) != 0
+                    : (base == std::ios_base::oct || base == std::ios_base::hex)) {
+        return false;
+    }
+    wchar_t digits[32];
+    wchar_t* const end = digits + 32;
+    wchar_t* first = end;
+    unsigned long long magnitude = value.magnitude;
+    if (hexadecimal) {
+        const wchar_t* const names =
+            (flags & std::ios_base::uppercase) != 0 ? L"0123456789ABCDEF" : L"0123456789abcdef";
+        do {
+            *--first = names[magnitude & 0xF];
+            magnitude >>= 4;
+        } while (magnitude != 0);
+        PutPadded(os, first, static_cast<std::size_t>(end - first), 0);
+        return true;
+    }
+    do {
+        *--first = static_cast<wchar_t>(L'0' + static_cast<int>(magnitude % 10));
+        magnitude /= 10;
+    } while (magnitude != 0);
+    std::size_t sign = 0;
+    if (value.negative) {
+        *--first = L'-';
+        sign = 1;
+    } else if (value.signedType && (flags & std::ios_base::showpos) != 0) {
+        *--first = L'+';
+        sign = 1;
+    }
+    PutPadded(os, first, static_cast<std::size_t>(end - first), sign);
+    return true;
+}
+
+} // namespace Fields
+
+namespace {
+
+std::wstring_view FirstCharacters(const std::wstring& value, int width)
 {
     if (width < 0) {
-        return std::wstring();
+        return std::wstring_view();
     }
-    return value.substr(0, static_cast<std::size_t>(width));
+    return std::wstring_view(value).substr(0, static_cast<std::size_t>(width));
 }
 
 } // namespace
@@ -42,7 +211,10 @@ std::wostream& operator<<(std::wostream& os, const TextForm& form)
     }
     os.fill(form.fill);
     os.width(form.width);
-    return os << form.value;
+    // A text pads behind for `left` and in front for any other adjustment,
+    // whatever the locale.
+    Fields::PutPadded(os, form.value.data(), form.value.size(), 0);
+    return os;
 }
 
 RealForm Real(int places, int decimals, double value)
@@ -57,6 +229,29 @@ std::wostream& operator<<(std::wostream& os, const RealForm& form)
     os.fill(L'0');
     os.precision(form.decimals);
     os.setf(std::ios_base::right, std::ios_base::adjustfield);
+    if (Fields::PlainDigits(os)) {
+        char text[128];
+        const std::size_t length = FixedCharacters(form.value, form.decimals,
+                                                   (os.flags() & std::ios_base::showpoint) != 0, text, 127);
+        if (length > 0) {
+            // The sign as RealFormat sets it: a minus from the digits, else a
+            // plus sign where one is in force.
+            wchar_t wide[128];
+            std::size_t sign = 0;
+            std::size_t count = 0;
+            if (text[0] == '-') {
+                sign = 1;
+            } else if ((os.flags() & std::ios_base::showpos) != 0) {
+                wide[count++] = L'+';
+                sign = 1;
+            }
+            for (std::size_t i = 0; i < length; ++i) {
+                wide[count++] = static_cast<wchar_t>(static_cast<unsigned char>(text[i]));
+            }
+            Fields::PutPadded(os, wide, count, sign);
+            return os;
+        }
+    }
     return os << form.value;
 }
 
@@ -68,7 +263,8 @@ CharForm Char(wchar_t value)
 std::wostream& operator<<(std::wostream& os, const CharForm& form)
 {
     os.width(1);
-    return os << form.value;
+    Fields::PutPadded(os, &form.value, 1, 0);
+    return os;
 }
 
 LiteralForm Literal(const char* text)
@@ -78,12 +274,17 @@ LiteralForm Literal(const char* text)
 
 std::wostream& operator<<(std::wostream& os, const LiteralForm& form)
 {
+    // Widening is the locale's: only the classic one is known to keep ASCII.
+    if (Fields::PlainDigits(os) && std::char_traits<char>::length(form.text) <= 64) {
+        Fields::PutLiteral(os, form.text);
+        return os;
+    }
     return os << form.text;
 }
 
 std::wostream& operator<<(std::wostream& os, BlankForm)
 {
-    return os << " ";
+    return os << Literal(" ");
 }
 
 BlanksForm Blanks(int count)
@@ -112,7 +313,7 @@ TagForm Tag(const char* text)
 
 std::wostream& operator<<(std::wostream& os, const TagForm& form)
 {
-    return os << form.text << EndLine;
+    return os << Literal(form.text) << EndLine;
 }
 
 } // namespace ItUnitechnik
