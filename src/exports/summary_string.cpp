@@ -4,16 +4,14 @@
 #include "framework/archive.h"
 #include "platform/platform.h"
 
+#include <cstddef>
+#include <cstring>
 #include <exception>
-#include <sstream>
-#include <string>
+#include <streambuf>
+#include <vector>
 
 using ItUnitechnik::Archive;
-using ItUnitechnik::BracedGirderData;
 using ItUnitechnik::ElementPart;
-using ItUnitechnik::ExternalIronData;
-using ItUnitechnik::MountingPartData;
-using ItUnitechnik::RodstockData;
 using ItUnitechnik::theDocument;
 
 namespace {
@@ -36,9 +34,53 @@ it_char16* AsResult(const it_char16* constant)
     return const_cast<it_char16*>(constant);
 }
 
-// The text in a block the host owns: each wide character is one 16-bit
-// unit, with the terminator behind it.
-it_char16* ToHostBlock(const std::wstring& text)
+// The wide stream buffer of the summary: every character is kept as one
+// 16-bit unit of the host's text, and a line ends in a line feed alone. The
+// characters collect in a put area and go on to the text when it is full and
+// at the end.
+class SummaryBuffer : public std::basic_streambuf<wchar_t> {
+public:
+    SummaryBuffer() { setp(area_, area_ + areaSize); }
+
+    // The text so far, with what stands in the put area.
+    const std::vector<it_char16>& Text()
+    {
+        Drain();
+        return text_;
+    }
+
+protected:
+    int_type overflow(int_type c) override
+    {
+        Drain();
+        if (!traits_type::eq_int_type(c, traits_type::eof())) {
+            *pptr() = traits_type::to_char_type(c);
+            pbump(1);
+        }
+        return traits_type::not_eof(c);
+    }
+
+private:
+    static constexpr std::size_t areaSize = 4096;
+
+    void Drain()
+    {
+        const std::size_t start = text_.size();
+        const std::size_t count = static_cast<std::size_t>(pptr() - pbase());
+        text_.resize(start + count);
+        for (std::size_t i = 0; i < count; ++i) {
+            text_[start + i] = static_cast<it_char16>(pbase()[i]);
+        }
+        setp(area_, area_ + areaSize);
+    }
+
+    wchar_t area_[areaSize];
+    std::vector<it_char16> text_;
+};
+
+// The text in a block the host owns, with the terminator behind it: the one
+// copy the text goes through.
+it_char16* ToHostBlock(const std::vector<it_char16>& text)
 {
     void* block = ItUnitechnik::Platform::AllocateHostBlock(sizeof(it_char16) * (text.size() + 1));
     if (block == nullptr) {
@@ -47,8 +89,8 @@ it_char16* ToHostBlock(const std::wstring& text)
         std::terminate();
     }
     it_char16* out = static_cast<it_char16*>(block);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        out[i] = static_cast<it_char16>(text[i]);
+    if (!text.empty()) {
+        std::memcpy(out, text.data(), sizeof(it_char16) * text.size());
     }
     out[text.size()] = 0;
     return out;
@@ -64,34 +106,28 @@ ITUNITECHNIK_API it_char16* getFullReinforcementString(void)
     if (element == nullptr) {
         return AsResult(kEmpty);
     }
-    // Copies of the lists with their versions, so that writing leaves the
-    // element as it is; the reinforcement block writes from the element
-    // itself.
-    MountingPartData mountingParts(element->mountingPartData);
-    RodstockData rodstocks(element->rodstockData);
-    BracedGirderData girders(element->bracedGirderData);
-    ExternalIronData irons(element->externalIronData);
-
-    // One stream for all five records: flags and fill carry over from one to
-    // the next as in the file, and each line ends in a bare line feed.
-    std::basic_stringbuf<wchar_t> buffer;
+    // The five records write from the element itself: writing changes no
+    // record, so no copy of a list is needed to leave the element as it is.
+    // One stream for all five: flags and fill carry over from one to the
+    // next as in the file, and each line ends in a bare line feed.
+    SummaryBuffer buffer;
     Archive ar(&buffer);
-    if (!mountingParts.Write(ar)) {
+    if (!element->mountingPartData.Write(ar)) {
         return AsResult(kErrorMountingParts);
     }
-    if (!rodstocks.Write(ar)) {
+    if (!element->rodstockData.Write(ar)) {
         return AsResult(kErrorRodstocks);
     }
-    if (!girders.Write(ar)) {
+    if (!element->bracedGirderData.Write(ar)) {
         return AsResult(kErrorGirders);
     }
     if (!element->reinforcement.Write(ar)) {
         return AsResult(kErrorReinforcement);
     }
-    if (!irons.Write(ar)) {
+    if (!element->externalIronData.Write(ar)) {
         return AsResult(kErrorExternalIrons);
     }
-    return ToHostBlock(buffer.str());
+    return ToHostBlock(buffer.Text());
 }
 
 ITUNITECHNIK_API void freeFullReinforcementString(it_char16* text)
