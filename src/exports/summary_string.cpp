@@ -2,13 +2,13 @@
 
 #include "exports/document.h"
 #include "framework/archive.h"
+#include "framework/field_buffer.h"
 #include "platform/platform.h"
 
+#include <algorithm>
 #include <cstddef>
-#include <cstring>
 #include <exception>
 #include <streambuf>
-#include <vector>
 
 using ItUnitechnik::Archive;
 using ItUnitechnik::ElementPart;
@@ -34,25 +34,68 @@ it_char16* AsResult(const it_char16* constant)
     return const_cast<it_char16*>(constant);
 }
 
-// The wide stream buffer of the summary: every character is kept as one
-// 16-bit unit of the host's text, and a line ends in a line feed alone. The
-// characters collect in a put area and go on to the text when it is full and
-// at the end.
-class SummaryBuffer : public std::basic_streambuf<wchar_t> {
+// The wide stream buffers of the summary: a line ends in a line feed alone,
+// and every character becomes one 16-bit unit of the host's text. The text
+// is made twice: once to count its units, then straight into a block of just
+// that size, so that it is neither held a second time nor copied.
+class CountingBuffer : public ItUnitechnik::FieldBuffer {
 public:
-    SummaryBuffer() { setp(area_, area_ + areaSize); }
+    CountingBuffer() { setp(area_, area_ + areaSize); }
 
-    // The text so far, with what stands in the put area.
-    const std::vector<it_char16>& Text()
+    std::size_t Count() const { return counted_ + static_cast<std::size_t>(pptr() - pbase()); }
+
+protected:
+    int_type overflow(int_type c) override
+    {
+        counted_ += static_cast<std::size_t>(pptr() - pbase());
+        setp(area_, area_ + areaSize);
+        if (!traits_type::eq_int_type(c, traits_type::eof())) {
+            *pptr() = traits_type::to_char_type(c);
+            pbump(1);
+        }
+        return traits_type::not_eof(c);
+    }
+
+private:
+    static constexpr std::size_t areaSize = 4096;
+    wchar_t area_[areaSize];
+    std::size_t counted_ = 0;
+};
+
+class BlockBuffer : public ItUnitechnik::FieldBuffer {
+public:
+    // A block for `count` units and the terminator.
+    explicit BlockBuffer(std::size_t count) : count_(count)
+    {
+        block_ = static_cast<it_char16*>(ItUnitechnik::Platform::AllocateHostBlock(sizeof(it_char16) * (count + 1)));
+        if (block_ == nullptr) {
+            // There is no result that could say so: the process ends, as a
+            // bounded copy into no memory would end it.
+            std::terminate();
+        }
+        setp(area_, area_ + areaSize);
+    }
+    BlockBuffer(const BlockBuffer&) = delete;
+    BlockBuffer& operator=(const BlockBuffer&) = delete;
+    ~BlockBuffer() override { ItUnitechnik::Platform::FreeHostBlock(block_); }
+
+    // The block with the text and its terminator; the host owns it from
+    // here on.
+    it_char16* Take()
     {
         Drain();
-        return text_;
+        block_[done_] = 0;
+        it_char16* block = block_;
+        block_ = nullptr;
+        return block;
     }
 
 protected:
     int_type overflow(int_type c) override
     {
-        Drain();
+        if (!Drain()) {
+            return traits_type::eof();
+        }
         if (!traits_type::eq_int_type(c, traits_type::eof())) {
             *pptr() = traits_type::to_char_type(c);
             pbump(1);
@@ -63,37 +106,49 @@ protected:
 private:
     static constexpr std::size_t areaSize = 4096;
 
-    void Drain()
+    // The put area's characters as units behind the text so far; false,
+    // and nothing more taken, once the block is full.
+    bool Drain()
     {
-        const std::size_t start = text_.size();
-        const std::size_t count = static_cast<std::size_t>(pptr() - pbase());
-        text_.resize(start + count);
+        const std::size_t count = std::min(static_cast<std::size_t>(pptr() - pbase()), count_ - done_);
         for (std::size_t i = 0; i < count; ++i) {
-            text_[start + i] = static_cast<it_char16>(pbase()[i]);
+            block_[done_ + i] = static_cast<it_char16>(area_[i]);
         }
+        const bool all = count == static_cast<std::size_t>(pptr() - pbase());
+        done_ += count;
         setp(area_, area_ + areaSize);
+        return all;
     }
 
     wchar_t area_[areaSize];
-    std::vector<it_char16> text_;
+    it_char16* block_ = nullptr;
+    std::size_t count_;
+    std::size_t done_ = 0;
 };
 
-// The text in a block the host owns, with the terminator behind it: the one
-// copy the text goes through.
-it_char16* ToHostBlock(const std::vector<it_char16>& text)
+// The five records, each right behind the one before, through one stream:
+// flags and fill carry over from one to the next as in the file. They write
+// from the element itself, since writing changes no record. Null when all
+// were written, else the error constant of the first that was not.
+const it_char16* WriteSummary(ElementPart& element, std::basic_streambuf<wchar_t>& buffer)
 {
-    void* block = ItUnitechnik::Platform::AllocateHostBlock(sizeof(it_char16) * (text.size() + 1));
-    if (block == nullptr) {
-        // There is no result that could say so: the process ends, as a
-        // bounded copy into no memory would end it.
-        std::terminate();
+    Archive ar(&buffer);
+    if (!element.mountingPartData.Write(ar)) {
+        return kErrorMountingParts;
     }
-    it_char16* out = static_cast<it_char16*>(block);
-    if (!text.empty()) {
-        std::memcpy(out, text.data(), sizeof(it_char16) * text.size());
+    if (!element.rodstockData.Write(ar)) {
+        return kErrorRodstocks;
     }
-    out[text.size()] = 0;
-    return out;
+    if (!element.bracedGirderData.Write(ar)) {
+        return kErrorGirders;
+    }
+    if (!element.reinforcement.Write(ar)) {
+        return kErrorReinforcement;
+    }
+    if (!element.externalIronData.Write(ar)) {
+        return kErrorExternalIrons;
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -106,28 +161,15 @@ ITUNITECHNIK_API it_char16* getFullReinforcementString(void)
     if (element == nullptr) {
         return AsResult(kEmpty);
     }
-    // The five records write from the element itself: writing changes no
-    // record, so no copy of a list is needed to leave the element as it is.
-    // One stream for all five: flags and fill carry over from one to the
-    // next as in the file, and each line ends in a bare line feed.
-    SummaryBuffer buffer;
-    Archive ar(&buffer);
-    if (!element->mountingPartData.Write(ar)) {
-        return AsResult(kErrorMountingParts);
+    CountingBuffer counting;
+    if (const it_char16* error = WriteSummary(*element, counting)) {
+        return AsResult(error);
     }
-    if (!element->rodstockData.Write(ar)) {
-        return AsResult(kErrorRodstocks);
+    BlockBuffer block(counting.Count());
+    if (const it_char16* error = WriteSummary(*element, block)) {
+        return AsResult(error);
     }
-    if (!element->bracedGirderData.Write(ar)) {
-        return AsResult(kErrorGirders);
-    }
-    if (!element->reinforcement.Write(ar)) {
-        return AsResult(kErrorReinforcement);
-    }
-    if (!element->externalIronData.Write(ar)) {
-        return AsResult(kErrorExternalIrons);
-    }
-    return ToHostBlock(buffer.Text());
+    return block.Take();
 }
 
 ITUNITECHNIK_API void freeFullReinforcementString(it_char16* text)

@@ -1,5 +1,8 @@
 #include "framework/document_file_buffer.h"
 
+#include <algorithm>
+#include <cstdint>
+
 namespace ItUnitechnik {
 
 DocumentFileBuffer::DocumentFileBuffer(const std::wstring& path, std::size_t areaSize)
@@ -45,26 +48,41 @@ void DocumentFileBuffer::ResetArea()
 
 bool DocumentFileBuffer::Drain()
 {
-    const wchar_t* first = pbase();
+    const wchar_t* const first = pbase();
     const wchar_t* const last = pptr();
+    const wchar_t* const looked = scanned_;
     ResetArea();
     if (broken_) {
         // What stands in the area came after the character that broke the
         // file.
         return false;
     }
-    char* const start = bytes_.get();
-    char* out = start;
-    for (; first != last; ++first) {
-        const wchar_t c = *first;
-        if (!FitsAByte(c)) {
+    // Everything before `looked` was looked through by sync already.
+    const wchar_t* stop = last;
+    for (const wchar_t* p = looked; p != last; ++p) {
+        if (!FitsAByte(*p)) {
+            stop = p;
             broken_ = true;
             break;
         }
-        if (c == L'\n') {
-            *out++ = '\r';
+    }
+    char* const start = bytes_.get();
+    char* out = start;
+    const wchar_t* p = first;
+    while (p != stop) {
+        // A run up to the next line feed, one byte each; then CR LF.
+        const wchar_t* const lineFeed = std::find(p, stop, L'\n');
+        const std::size_t run = static_cast<std::size_t>(lineFeed - p);
+        for (std::size_t i = 0; i < run; ++i) {
+            out[i] = static_cast<char>(static_cast<unsigned char>(p[i]));
         }
-        *out++ = static_cast<char>(static_cast<unsigned char>(c));
+        out += run;
+        p = lineFeed;
+        if (p != stop) {
+            *out++ = '\r';
+            *out++ = '\n';
+            ++p;
+        }
     }
     if (out != start && !file_.Write(start, static_cast<std::size_t>(out - start))) {
         broken_ = true;
@@ -99,12 +117,17 @@ int DocumentFileBuffer::sync()
     if (broken_) {
         return -1;
     }
+    // Every character's bits together: above 0xFF when one of them is (a
+    // negative character counts as above).
+    std::uint32_t bits = 0;
     for (const wchar_t* p = scanned_; p != pptr(); ++p) {
-        if (!FitsAByte(*p)) {
-            // The bytes before it go to the file now; the file is broken.
-            Drain();
-            return -1;
-        }
+        bits |= static_cast<std::uint32_t>(*p);
+    }
+    if (bits > 0xFF) {
+        // The bytes before the character go to the file now; the file is
+        // broken from it on.
+        Drain();
+        return -1;
     }
     scanned_ = pptr();
     return 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/field_buffer.h"
 #include "platform/platform.h"
 
 #include <cstddef>
@@ -22,7 +23,7 @@ namespace ItUnitechnik {
 // go to the file when the area is full and when the buffer closes. A sync,
 // which every line end asks for, only looks through the characters put since
 // the last one for a character above U+00FF.
-class DocumentFileBuffer : public std::basic_streambuf<wchar_t> {
+class DocumentFileBuffer : public FieldBuffer {
 public:
     static constexpr std::size_t defaultAreaSize = 32 * 1024; // characters; 64 KiB of file or less
 

@@ -15,10 +15,36 @@ int PlainDigitsIndex()
     return index;
 }
 
+// The FieldBuffer that a marked stream was made over.
+int FieldBufferIndex()
+{
+    static const int index = std::ios_base::xalloc();
+    return index;
+}
+
+// The put area a field may go into directly: that of the FieldBuffer the
+// stream was marked with, while it is still the stream's buffer, the stream
+// is good, and nothing asks for a flush around the field (no tied stream, no
+// `unitbuf`). Null otherwise.
+FieldBuffer* DirectBuffer(std::wostream& os)
+{
+    if (os.rdstate() != std::ios_base::goodbit || os.tie() != nullptr
+        || (os.flags() & std::ios_base::unitbuf) != 0) {
+        return nullptr;
+    }
+    void* const marked = os.pword(FieldBufferIndex());
+    std::wstreambuf* const buffer = os.rdbuf();
+    if (marked == nullptr || marked != static_cast<void*>(buffer)) {
+        return nullptr;
+    }
+    return static_cast<FieldBuffer*>(buffer);
+}
+
 void ForgetPlainDigits(std::ios_base::event happened, std::ios_base& stream, int index)
 {
     if (happened == std::ios_base::imbue_event) {
         stream.iword(index) = 0;
+        stream.pword(FieldBufferIndex()) = nullptr;
     }
 }
 
@@ -36,22 +62,26 @@ void MarkBad(std::wostream& os)
     os.setstate(std::ios_base::badbit);
 }
 
+// One character at a time: a buffer's sputc stores into its put area
+// without a call while there is room.
 bool Put(std::wstreambuf* buffer, const wchar_t* text, std::size_t length)
 {
-    const auto count = static_cast<std::streamsize>(length);
-    return buffer->sputn(text, count) == count;
+    using Traits = std::wstreambuf::traits_type;
+    for (std::size_t i = 0; i < length; ++i) {
+        if (Traits::eq_int_type(buffer->sputc(text[i]), Traits::eof())) {
+            return false;
+        }
+    }
+    return true;
 }
 
 bool PutFill(std::wstreambuf* buffer, wchar_t fill, std::size_t count)
 {
-    wchar_t chunk[64];
-    std::fill_n(chunk, std::min<std::size_t>(count, 64), fill);
-    while (count > 0) {
-        const std::size_t part = std::min<std::size_t>(count, 64);
-        if (!Put(buffer, chunk, part)) {
+    using Traits = std::wstreambuf::traits_type;
+    for (std::size_t i = 0; i < count; ++i) {
+        if (Traits::eq_int_type(buffer->sputc(fill), Traits::eof())) {
             return false;
         }
-        count -= part;
     }
     return true;
 }
@@ -59,47 +89,77 @@ bool PutFill(std::wstreambuf* buffer, wchar_t fill, std::size_t count)
 // The characters of one field with the stream's width, fill and adjustment,
 // as the inserters pad them: behind the text for `left`; between the first
 // `prefix` characters (a sign) and the rest for `internal`; in front of the
-// text for any other adjustment. Behind a sentry, the width used up.
-void PutPadded(std::wostream& os, const wchar_t* text, std::size_t length, std::size_t prefix)
+// text for any other adjustment. The width is used up.
+void PutPaddedOnGoodStream(std::wostream& os, const wchar_t* text, std::size_t length, std::size_t prefix)
 {
-    const std::wostream::sentry guard(os);
-    if (!guard) {
-        return;
-    }
     try {
         const std::streamsize width = os.width();
         const std::size_t padding =
             width > static_cast<std::streamsize>(length) ? static_cast<std::size_t>(width) - length : 0;
         os.width(0);
         std::wstreambuf* const buffer = os.rdbuf();
-        bool written = true;
-        if (padding == 0) {
-            written = Put(buffer, text, length);
-        } else {
+        std::size_t before = 0; // characters of the text in front of the fill
+        if (padding > 0) {
             const std::ios_base::fmtflags adjust = os.flags() & std::ios_base::adjustfield;
-            std::size_t before = 0; // characters of the text in front of the fill
             if (adjust == std::ios_base::left) {
                 before = length;
             } else if (adjust == std::ios_base::internal) {
                 before = prefix;
             }
-            wchar_t line[128];
-            if (length + padding <= 128) {
-                std::copy(text, text + before, line);
-                std::fill_n(line + before, padding, os.fill());
-                std::copy(text + before, text + length, line + before + padding);
-                written = Put(buffer, line, length + padding);
-            } else {
-                written = Put(buffer, text, before) && PutFill(buffer, os.fill(), padding)
-                          && Put(buffer, text + before, length - before);
-            }
         }
-        if (!written) {
+        if (!(Put(buffer, text, before) && PutFill(buffer, os.fill(), padding)
+              && Put(buffer, text + before, length - before))) {
             os.setstate(std::ios_base::badbit);
         }
     } catch (...) {
         MarkBad(os);
     }
+}
+
+// The field behind what a sentry does: a stream that is not good takes
+// nothing (and a bad one fails as well). A tied stream and one under
+// `unitbuf` get a real sentry, which flushes them; an Archive is neither.
+void PutPadded(std::wostream& os, const wchar_t* text, std::size_t length, std::size_t prefix)
+{
+    if (FieldBuffer* const direct = DirectBuffer(os)) {
+        const std::streamsize width = os.width();
+        const std::size_t padding =
+            width > static_cast<std::streamsize>(length) ? static_cast<std::size_t>(width) - length : 0;
+        if (wchar_t* out = direct->Room(length + padding)) {
+            std::size_t before = 0;
+            if (padding > 0) {
+                const std::ios_base::fmtflags adjust = os.flags() & std::ios_base::adjustfield;
+                before = adjust == std::ios_base::left ? length : adjust == std::ios_base::internal ? prefix : 0;
+            }
+            const wchar_t fill = padding > 0 ? os.fill() : L' ';
+            for (std::size_t i = 0; i < before; ++i) {
+                *out++ = text[i];
+            }
+            for (std::size_t i = 0; i < padding; ++i) {
+                *out++ = fill;
+            }
+            for (std::size_t i = before; i < length; ++i) {
+                *out++ = text[i];
+            }
+            direct->Advance(length + padding);
+            os.width(0);
+            return;
+        }
+    }
+    if (os.tie() != nullptr || (os.flags() & std::ios_base::unitbuf) != 0) {
+        const std::wostream::sentry guard(os);
+        if (guard) {
+            PutPaddedOnGoodStream(os, text, length, prefix);
+        }
+        return;
+    }
+    if (!os.good()) {
+        if (os.bad()) {
+            os.setstate(std::ios_base::failbit);
+        }
+        return;
+    }
+    PutPaddedOnGoodStream(os, text, length, prefix);
 }
 
 // A narrow ASCII literal, widened one character each.
@@ -114,10 +174,91 @@ void PutLiteral(std::wostream& os, const char* text)
     PutPadded(os, wide, length, 0);
 }
 
+// The integer straight into the put area, digits written from the back:
+// [fill][sign][digits] for a right adjustment, [sign][fill][digits] for
+// `internal`, [sign][digits][fill] for `left`. False when the area has no
+// room for it.
+template <unsigned base>
+std::size_t DigitCount(unsigned long long magnitude)
+{
+    std::size_t count = 1;
+    for (; magnitude >= base; magnitude /= base) {
+        ++count;
+    }
+    return count;
+}
+
+// The digits of the magnitude, the last one at out[count - 1].
+template <unsigned base>
+void WriteDigits(wchar_t* out, std::size_t count, unsigned long long magnitude, const wchar_t* names)
+{
+    for (std::size_t i = count; i > 0; --i) {
+        out[i - 1] = names[magnitude % base];
+        magnitude /= base;
+    }
+}
+
+bool PutIntegerDirect(std::wostream& os, FieldBuffer& direct, const IntegerValue& value, bool hexadecimal)
+{
+    const std::size_t digitCount = hexadecimal ? DigitCount<16>(value.magnitude) : DigitCount<10>(value.magnitude);
+    const std::ios_base::fmtflags flags = os.flags();
+    wchar_t sign = 0;
+    if (!hexadecimal) {
+        if (value.negative) {
+            sign = L'-';
+        } else if (value.signedType && (flags & std::ios_base::showpos) != 0) {
+            sign = L'+';
+        }
+    }
+    const std::size_t length = digitCount + (sign != 0 ? 1 : 0);
+    const std::streamsize width = os.width();
+    const std::size_t padding =
+        width > static_cast<std::streamsize>(length) ? static_cast<std::size_t>(width) - length : 0;
+    wchar_t* out = direct.Room(length + padding);
+    if (out == nullptr) {
+        return false;
+    }
+    const std::ios_base::fmtflags adjust = flags & std::ios_base::adjustfield;
+    const wchar_t fill = padding > 0 ? os.fill() : L'0';
+    if (adjust != std::ios_base::left && adjust != std::ios_base::internal) {
+        for (std::size_t i = 0; i < padding; ++i) {
+            *out++ = fill;
+        }
+    }
+    if (sign != 0) {
+        *out++ = sign;
+    }
+    if (adjust == std::ios_base::internal) {
+        for (std::size_t i = 0; i < padding; ++i) {
+            *out++ = fill;
+        }
+    }
+    const wchar_t* const names =
+        (flags & std::ios_base::uppercase) != 0 ? L"0123456789ABCDEF" : L"0123456789abcdef";
+    if (hexadecimal) {
+        WriteDigits<16>(out, digitCount, value.magnitude, names);
+    } else {
+        WriteDigits<10>(out, digitCount, value.magnitude, names);
+    }
+    out += digitCount;
+    if (adjust == std::ios_base::left) {
+        for (std::size_t i = 0; i < padding; ++i) {
+            *out++ = fill;
+        }
+    }
+    direct.Advance(length + padding);
+    os.width(0);
+    return true;
+}
+
 } // namespace
 
-void KeepPlainDigits(std::ios_base& stream)
+void KeepPlainDigits(std::wostream& stream)
 {
+    std::wstreambuf* const buffer = stream.rdbuf();
+    if (dynamic_cast<FieldBuffer*>(buffer) != nullptr) {
+        stream.pword(FieldBufferIndex()) = buffer;
+    }
     stream.iword(PlainDigitsIndex()) = 1;
     stream.register_callback(ForgetPlainDigits, PlainDigitsIndex());
 }
@@ -137,6 +278,11 @@ bool PutInteger(std::wostream& os, const IntegerValue& value, bool hexadecimal)
     if (hexadecimal ? (flags & std::ios_base::showbase) != 0
                     : (base == std::ios_base::oct || base == std::ios_base::hex)) {
         return false;
+    }
+    if (FieldBuffer* const direct = DirectBuffer(os)) {
+        if (PutIntegerDirect(os, *direct, value, hexadecimal)) {
+            return true;
+        }
     }
     wchar_t digits[32];
     wchar_t* const end = digits + 32;
@@ -284,7 +430,22 @@ std::wostream& operator<<(std::wostream& os, const LiteralForm& form)
 
 std::wostream& operator<<(std::wostream& os, BlankForm)
 {
-    return os << Literal(" ");
+    // The commonest field of all: one character, no width left in force.
+    if (FieldBuffer* const direct = Fields::DirectBuffer(os)) {
+        if (os.width() <= 1) {
+            if (wchar_t* const out = direct->Room(1)) {
+                *out = L' ';
+                direct->Advance(1);
+                os.width(0);
+                return os;
+            }
+        }
+    }
+    if (Fields::PlainDigits(os)) {
+        Fields::PutPadded(os, L" ", 1, 0);
+        return os;
+    }
+    return os << " ";
 }
 
 BlanksForm Blanks(int count)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framework/field_buffer.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <ostream>
@@ -84,8 +86,10 @@ IntegerForm<T> Hex(int width, T value)
 namespace Fields {
 
 // Marks a stream that has just taken the classic number formats; any locale
-// imbued later takes the mark away again.
-void KeepPlainDigits(std::ios_base& stream);
+// imbued later takes the mark away again. When its buffer is a FieldBuffer,
+// the forms fill that buffer's put area themselves for as long as it stays
+// the stream's buffer.
+void KeepPlainDigits(std::wostream& stream);
 // Whether the stream keeps the classic number formats that an Archive gives
 // it, so that a form may make its own digits.
 bool PlainDigits(std::ios_base& stream);
