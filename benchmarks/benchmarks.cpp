@@ -140,8 +140,8 @@ void SummaryCopy(benchmark::State& state)
     freeFullReinforcementString(text);
 }
 
-// Keeps the real time per iteration of every run, in nanoseconds: the median
-// when runs are repeated.
+// Keeps the real and the CPU time per iteration of every run, in
+// nanoseconds: the median when runs are repeated.
 class RatioReporter : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override
@@ -153,26 +153,37 @@ public:
             if (run.error_occurred || (!single && !median)) {
                 continue;
             }
-            const double seconds = run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit);
+            const double toNanoseconds = 1e9 / benchmark::GetTimeUnitMultiplier(run.time_unit);
             std::string name = run.run_name.function_name;
             if (!run.run_name.args.empty()) {
                 name += "/" + run.run_name.args;
             }
-            times[name] = seconds * 1e9;
+            times[name] = run.GetAdjustedRealTime() * toNanoseconds;
+            cpuTimes[name] = run.GetAdjustedCPUTime() * toNanoseconds;
         }
     }
 
     std::map<std::string, double> times;
+    std::map<std::string, double> cpuTimes;
 };
 
-void PrintRatios(const RatioReporter& reporter, std::size_t fileBytes, std::size_t peakBytes,
-                 std::size_t startBytes)
+struct Memory {
+    std::size_t start;   // peak resident set before the large element
+    std::size_t written; // with it built and written by endDocument
+    std::size_t summary; // and its summary string taken as well
+};
+
+void PrintRatios(const RatioReporter& reporter, std::size_t fileBytes, const Memory& memory)
 {
     auto time = [&reporter](const std::string& name) {
         auto found = reporter.times.find(name);
         return found == reporter.times.end() ? 0.0 : found->second;
     };
-    std::printf("\nRatios (goal in brackets)\n");
+    auto cpuTime = [&reporter](const std::string& name) {
+        auto found = reporter.cpuTimes.find(name);
+        return found == reporter.cpuTimes.end() ? 0.0 : found->second;
+    };
+    std::printf("\nRatios of real times (goal in brackets)\n");
     std::printf("%-22s", "adder t(2n)/t(n)  n =");
     for (int64_t n = smallestCount; n < largestCount; n *= 2) {
         std::printf(" %6lldk", static_cast<long long>(n / 1024));
@@ -194,24 +205,30 @@ void PrintRatios(const RatioReporter& reporter, std::size_t fileBytes, std::size
         }
         std::printf("  %5.2f\n", worst);
     }
-    const double written = time("endDocument");
-    const double raw = time("rawWrite");
-    if (written > 0 && raw > 0) {
-        std::printf("endDocument / buffered fwrite of the same %zu bytes: %.1f ms / %.2f ms = %.2f  [<= 5]\n",
-                    fileBytes, written / 1e6, raw / 1e6, written / raw);
-    }
-    const double summary = time("getFullReinforcementString");
-    const double copy = time("copyOfSummaryText");
-    if (summary > 0 && copy > 0) {
-        std::printf("getFullReinforcementString / copy of its text: %.2f ms / %.3f ms = %.2f  [<= 5]\n",
-                    summary / 1e6, copy / 1e6, summary / copy);
-    }
+    // Real time, and CPU time beside it: on a machine that other work
+    // shares, the CPU times move less.
+    auto compare = [&](const char* what, const char* subject, const char* baseline) {
+        const double a = time(subject);
+        const double b = time(baseline);
+        const double ac = cpuTime(subject);
+        const double bc = cpuTime(baseline);
+        if (a > 0 && b > 0 && ac > 0 && bc > 0) {
+            std::printf("%s: %.2f ms / %.3f ms = %.2f (CPU %.2f ms / %.3f ms = %.2f)  [<= 5]\n", what, a / 1e6,
+                        b / 1e6, a / b, ac / 1e6, bc / 1e6, ac / bc);
+        }
+    };
+    const std::string fileWhat = "endDocument / one buffered fwrite of the same " + std::to_string(fileBytes) + " bytes";
+    compare(fileWhat.c_str(), "endDocument", "rawWrite");
+    compare("getFullReinforcementString / a copy of its text", "getFullReinforcementString", "copyOfSummaryText");
     const double goal = 3.0 * static_cast<double>(fileBytes) + 10.0 * 1024 * 1024;
-    std::printf("peak resident set with the large element written: %.1f MB (%.1f MB before it) for a file "
-                "of %.1f MB; goal 3 x file + 10 MB = %.1f MB; ratio %.2f  [<= 1]\n",
-                static_cast<double>(peakBytes) / 1048576.0, static_cast<double>(startBytes) / 1048576.0,
-                static_cast<double>(fileBytes) / 1048576.0, goal / 1048576.0,
-                static_cast<double>(peakBytes) / goal);
+    auto megabytes = [](double bytes) { return bytes / 1048576.0; };
+    std::printf("peak resident set: %.1f MB before the large element, %.1f MB with it built and written, "
+                "%.1f MB with its summary taken too; file %.1f MB, goal 3 x file + 10 MB = %.1f MB; "
+                "ratios %.2f and %.2f  [<= 1]\n",
+                megabytes(static_cast<double>(memory.start)), megabytes(static_cast<double>(memory.written)),
+                megabytes(static_cast<double>(memory.summary)), megabytes(static_cast<double>(fileBytes)),
+                megabytes(goal), static_cast<double>(memory.written) / goal,
+                static_cast<double>(memory.summary) / goal);
 }
 
 } // namespace
@@ -228,12 +245,14 @@ int main(int argc, char** argv)
 
     // The memory first, before any other benchmark has grown the process:
     // build the large element, write it and take its summary.
-    const std::size_t startBytes = PeakResidentBytes();
+    Memory memory{};
+    memory.start = PeakResidentBytes();
     EnsureLargeElement();
     const std::u16string path = HostPath(documentPath);
     endDocument(reinterpret_cast<const it_char16*>(path.c_str()));
+    memory.written = PeakResidentBytes();
     freeFullReinforcementString(getFullReinforcementString());
-    const std::size_t peakBytes = PeakResidentBytes();
+    memory.summary = PeakResidentBytes();
     documentBytes = ReadBytes(documentPath);
 
     benchmark::RegisterBenchmark("endDocument", EndDocument)->Unit(benchmark::kMillisecond);
@@ -249,7 +268,7 @@ int main(int argc, char** argv)
 
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
-    PrintRatios(reporter, documentBytes.size(), peakBytes, startBytes);
+    PrintRatios(reporter, documentBytes.size(), memory);
     benchmark::Shutdown();
     scratch.reset();
     return 0;
