@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <string>
+#include <utility>
 
 using ItUnitechnik::ElementPart;
 using ItUnitechnik::Order;
@@ -49,9 +50,12 @@ ITUNITECHNIK_API int32_t startOrder(uint16_t orderValue, int32_t elementNumberAr
     element.elementText30 = ItUnitechnik::FromHost(elementTextArg);
     element.firstPlaster = ItUnitechnik::Plaster();
     element.secondPlaster = ItUnitechnik::Plaster();
-    order.Add(element);
+    // Moved in rather than copied; each collection's hook runs as after an Add.
+    order.elementParts.push_back(std::move(element));
+    order.Changed();
 
-    theDocument.Add(order);
+    theDocument.orders.push_back(std::move(order));
+    theDocument.Changed();
     return 1;
 }
 

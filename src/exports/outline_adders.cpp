@@ -5,6 +5,7 @@
 #include "geometry/line_segment.h"
 
 #include <memory>
+#include <utility>
 
 using ItUnitechnik::BracedGirder;
 using ItUnitechnik::Contour;
@@ -20,12 +21,13 @@ using ItUnitechnik::theDocument;
 namespace {
 
 // One straight piece of an outline: a line element of the owner's version,
-// copied into the owner's list.
+// moved into the owner's list, then the owner's hook.
 template <class Owner>
 void AddStraightPiece(Owner& owner, int32_t x0, int32_t y0, int32_t x1, int32_t y1)
 {
-    owner.Add(GeoData(owner.version, L'S',
-                      std::make_unique<LineSegment>(owner.version, Point2d(x0, y0), Point2d(x1, y1))));
+    owner.geoData.emplace_back(owner.version, L'S',
+                               std::make_unique<LineSegment>(owner.version, Point2d(x0, y0), Point2d(x1, y1)));
+    owner.Changed();
 }
 
 // The pieces from each point to the next; the chain is not closed.
@@ -81,8 +83,8 @@ int32_t AddMountingPart(ElementPart& element, const it_char16* setName, int32_t 
 
     part.version = element.mountingPartData.version;
     part.partNumber = static_cast<int32_t>(element.mountingPartData.parts.size()) + 1;
-    element.mountingPartData.parts.push_back(part);
-    element.recomputeExtents();
+    element.mountingPartData.parts.push_back(std::move(part));
+    element.updateExtents();
     return 1;
 }
 
@@ -107,7 +109,7 @@ int32_t AddGirders(ElementPart& element, const it_char16* setName, int32_t value
         girder.scaledValue = g[8] / 1000.0;
         girder.lastNumber = g[9];
         element.bracedGirderData.appendGirder(girder);
-        element.recomputeExtents();
+        element.updateExtents();
     }
     return 1;
 }
@@ -124,7 +126,7 @@ ITUNITECHNIK_API void addContour(int32_t pointCount, const int32_t* points)
     }
     Contour contour(element->version);
     AddChain(contour, pointCount, points);
-    element->appendContour(contour);
+    element->appendContour(std::move(contour));
 }
 
 ITUNITECHNIK_API void addCutout(const ItCutoutBlock* block, const int32_t* points)
@@ -137,7 +139,7 @@ ITUNITECHNIK_API void addCutout(const ItCutoutBlock* block, const int32_t* point
     cutout.cutoutValue = block->cutoutValue;
     cutout.cutoutName = FromHost(block->cutoutName);
     AddChain(cutout, block->pointCount, points);
-    element->appendCutout(cutout);
+    element->appendCutout(std::move(cutout));
 }
 
 ITUNITECHNIK_API int32_t addSet(int32_t setKind, const it_char16* setName, int32_t valueCount,

@@ -3,6 +3,7 @@
 #include "exports/document.h"
 #include "exports/host_text.h"
 
+#include <utility>
 #include <vector>
 
 using ItUnitechnik::BendingFormSegment;
@@ -46,7 +47,7 @@ ITUNITECHNIK_API int32_t addSteelmat(const it_char16* name, int32_t firstDimensi
     element->reinforcement.matFlag = 1;
     const int16_t number = element->reinforcement.appendSteelmat(
         FromHost(name), firstDimension, secondDimension, firstFlag, secondFlag, matKind, position);
-    element->recomputeExtents();
+    element->updateExtents();
     return number;
 }
 
@@ -92,7 +93,7 @@ ITUNITECHNIK_API int32_t addCFSRodstock(int32_t rodKind, const it_char16* design
         mat.rodstocks.appendRodstock(bar);
         result = bar.number;
     }
-    element->recomputeExtents();
+    element->updateExtents();
     return result;
 }
 
@@ -105,7 +106,7 @@ ITUNITECHNIK_API void addStraightRodstock(const ItBarBlock* block)
     // The free-form cells are not read: a straight bar keeps the defaults.
     Rodstock bar(element->version);
     FillCommonCells(bar, *block);
-    element->appendRodstock(bar);
+    element->appendRodstock(std::move(bar));
 }
 
 ITUNITECHNIK_API void addFreeFormRodstock(const ItBarBlock* block, const ItFreeFormSegment* segments)
@@ -133,7 +134,7 @@ ITUNITECHNIK_API void addFreeFormRodstock(const ItBarBlock* block, const ItFreeF
         }
         bar.freeForm.buildFromSegments(entries);
     }
-    element->appendRodstock(bar);
+    element->appendRodstock(std::move(bar));
 }
 
 ITUNITECHNIK_API int32_t addExtIron(int32_t ironCode, int32_t ironCount, double ironValue,

@@ -2,18 +2,16 @@
 
 #include "exports/document.h"
 #include "framework/archive.h"
+#include "framework/field_buffer.h"
 #include "platform/platform.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <exception>
-#include <sstream>
-#include <string>
+#include <streambuf>
 
 using ItUnitechnik::Archive;
-using ItUnitechnik::BracedGirderData;
 using ItUnitechnik::ElementPart;
-using ItUnitechnik::ExternalIronData;
-using ItUnitechnik::MountingPartData;
-using ItUnitechnik::RodstockData;
 using ItUnitechnik::theDocument;
 
 namespace {
@@ -36,22 +34,121 @@ it_char16* AsResult(const it_char16* constant)
     return const_cast<it_char16*>(constant);
 }
 
-// The text in a block the host owns: each wide character is one 16-bit
-// unit, with the terminator behind it.
-it_char16* ToHostBlock(const std::wstring& text)
+// The wide stream buffers of the summary: a line ends in a line feed alone,
+// and every character becomes one 16-bit unit of the host's text. The text
+// is made twice: once to count its units, then straight into a block of just
+// that size, so that it is neither held a second time nor copied.
+class CountingBuffer : public ItUnitechnik::FieldBuffer {
+public:
+    CountingBuffer() { setp(area_, area_ + areaSize); }
+
+    std::size_t Count() const { return counted_ + static_cast<std::size_t>(pptr() - pbase()); }
+
+protected:
+    int_type overflow(int_type c) override
+    {
+        counted_ += static_cast<std::size_t>(pptr() - pbase());
+        setp(area_, area_ + areaSize);
+        if (!traits_type::eq_int_type(c, traits_type::eof())) {
+            *pptr() = traits_type::to_char_type(c);
+            pbump(1);
+        }
+        return traits_type::not_eof(c);
+    }
+
+private:
+    static constexpr std::size_t areaSize = 4096;
+    wchar_t area_[areaSize];
+    std::size_t counted_ = 0;
+};
+
+class BlockBuffer : public ItUnitechnik::FieldBuffer {
+public:
+    // A block for `count` units and the terminator.
+    explicit BlockBuffer(std::size_t count) : count_(count)
+    {
+        block_ = static_cast<it_char16*>(ItUnitechnik::Platform::AllocateHostBlock(sizeof(it_char16) * (count + 1)));
+        if (block_ == nullptr) {
+            // There is no result that could say so: the process ends, as a
+            // bounded copy into no memory would end it.
+            std::terminate();
+        }
+        setp(area_, area_ + areaSize);
+    }
+    BlockBuffer(const BlockBuffer&) = delete;
+    BlockBuffer& operator=(const BlockBuffer&) = delete;
+    ~BlockBuffer() override { ItUnitechnik::Platform::FreeHostBlock(block_); }
+
+    // The block with the text and its terminator; the host owns it from
+    // here on.
+    it_char16* Take()
+    {
+        Drain();
+        block_[done_] = 0;
+        it_char16* block = block_;
+        block_ = nullptr;
+        return block;
+    }
+
+protected:
+    int_type overflow(int_type c) override
+    {
+        if (!Drain()) {
+            return traits_type::eof();
+        }
+        if (!traits_type::eq_int_type(c, traits_type::eof())) {
+            *pptr() = traits_type::to_char_type(c);
+            pbump(1);
+        }
+        return traits_type::not_eof(c);
+    }
+
+private:
+    static constexpr std::size_t areaSize = 4096;
+
+    // The put area's characters as units behind the text so far; false,
+    // and nothing more taken, once the block is full.
+    bool Drain()
+    {
+        const std::size_t count = std::min(static_cast<std::size_t>(pptr() - pbase()), count_ - done_);
+        for (std::size_t i = 0; i < count; ++i) {
+            block_[done_ + i] = static_cast<it_char16>(area_[i]);
+        }
+        const bool all = count == static_cast<std::size_t>(pptr() - pbase());
+        done_ += count;
+        setp(area_, area_ + areaSize);
+        return all;
+    }
+
+    wchar_t area_[areaSize];
+    it_char16* block_ = nullptr;
+    std::size_t count_;
+    std::size_t done_ = 0;
+};
+
+// The five records, each right behind the one before, through one stream:
+// flags and fill carry over from one to the next as in the file. They write
+// from the element itself, since writing changes no record. Null when all
+// were written, else the error constant of the first that was not.
+const it_char16* WriteSummary(ElementPart& element, std::basic_streambuf<wchar_t>& buffer)
 {
-    void* block = ItUnitechnik::Platform::AllocateHostBlock(sizeof(it_char16) * (text.size() + 1));
-    if (block == nullptr) {
-        // There is no result that could say so: the process ends, as a
-        // bounded copy into no memory would end it.
-        std::terminate();
+    Archive ar(&buffer);
+    if (!element.mountingPartData.Write(ar)) {
+        return kErrorMountingParts;
     }
-    it_char16* out = static_cast<it_char16*>(block);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        out[i] = static_cast<it_char16>(text[i]);
+    if (!element.rodstockData.Write(ar)) {
+        return kErrorRodstocks;
     }
-    out[text.size()] = 0;
-    return out;
+    if (!element.bracedGirderData.Write(ar)) {
+        return kErrorGirders;
+    }
+    if (!element.reinforcement.Write(ar)) {
+        return kErrorReinforcement;
+    }
+    if (!element.externalIronData.Write(ar)) {
+        return kErrorExternalIrons;
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -64,34 +161,15 @@ ITUNITECHNIK_API it_char16* getFullReinforcementString(void)
     if (element == nullptr) {
         return AsResult(kEmpty);
     }
-    // Copies of the lists with their versions, so that writing leaves the
-    // element as it is; the reinforcement block writes from the element
-    // itself.
-    MountingPartData mountingParts(element->mountingPartData);
-    RodstockData rodstocks(element->rodstockData);
-    BracedGirderData girders(element->bracedGirderData);
-    ExternalIronData irons(element->externalIronData);
-
-    // One stream for all five records: flags and fill carry over from one to
-    // the next as in the file, and each line ends in a bare line feed.
-    std::basic_stringbuf<wchar_t> buffer;
-    Archive ar(&buffer);
-    if (!mountingParts.Write(ar)) {
-        return AsResult(kErrorMountingParts);
+    CountingBuffer counting;
+    if (const it_char16* error = WriteSummary(*element, counting)) {
+        return AsResult(error);
     }
-    if (!rodstocks.Write(ar)) {
-        return AsResult(kErrorRodstocks);
+    BlockBuffer block(counting.Count());
+    if (const it_char16* error = WriteSummary(*element, block)) {
+        return AsResult(error);
     }
-    if (!girders.Write(ar)) {
-        return AsResult(kErrorGirders);
-    }
-    if (!element->reinforcement.Write(ar)) {
-        return AsResult(kErrorReinforcement);
-    }
-    if (!irons.Write(ar)) {
-        return AsResult(kErrorExternalIrons);
-    }
-    return ToHostBlock(buffer.str());
+    return block.Take();
 }
 
 ITUNITECHNIK_API void freeFullReinforcementString(it_char16* text)

@@ -1,5 +1,6 @@
 #include "framework/archive.h"
 
+#include "framework/field_forms.h"
 #include "framework/real_format.h"
 
 namespace ItUnitechnik {
@@ -8,6 +9,7 @@ Archive::Archive(std::basic_streambuf<wchar_t>* buffer)
     : std::basic_iostream<wchar_t>(buffer)
 {
     imbue(ClassicNumberLocale());
+    Fields::KeepPlainDigits(*this);
 }
 
 Archive::~Archive()

@@ -1,11 +1,21 @@
 #include "framework/document_file_buffer.h"
 
-namespace ItUnitechnik {
-namespace {
-constexpr std::size_t pendingLimit = 4096;
-}
+#include <algorithm>
+#include <cstdint>
 
-DocumentFileBuffer::DocumentFileBuffer(const std::wstring& path) : file_(path) {}
+namespace ItUnitechnik {
+
+DocumentFileBuffer::DocumentFileBuffer(const std::wstring& path, std::size_t areaSize)
+    : file_(path), areaSize_(areaSize > 0 ? areaSize : 1)
+{
+    // Without a file there is no area: the first character goes to overflow
+    // and fails there.
+    if (file_.IsOpen()) {
+        area_ = std::make_unique<wchar_t[]>(areaSize_);
+        bytes_ = std::make_unique<char[]>(2 * areaSize_);
+        ResetArea();
+    }
+}
 
 DocumentFileBuffer::~DocumentFileBuffer()
 {
@@ -19,60 +29,108 @@ bool DocumentFileBuffer::IsOpen() const
 
 void DocumentFileBuffer::Close()
 {
-    WritePending();
+    if (file_.IsOpen()) {
+        Drain();
+    }
     file_.Close();
 }
 
-bool DocumentFileBuffer::Put(wchar_t c)
+bool DocumentFileBuffer::FitsAByte(wchar_t c)
 {
-    const unsigned long code = static_cast<unsigned long>(c);
-    if (broken_ || !file_.IsOpen() || code > 0xFF) {
-        broken_ = true;
-        return false;
-    }
-    if (c == L'\n') {
-        pending_ += '\r';
-    }
-    pending_ += static_cast<char>(static_cast<unsigned char>(code));
-    if (pending_.size() >= pendingLimit) {
-        return WritePending();
-    }
-    return true;
+    return static_cast<unsigned long>(c) <= 0xFF;
 }
 
-bool DocumentFileBuffer::WritePending()
+void DocumentFileBuffer::ResetArea()
 {
-    if (pending_.empty()) {
-        return !broken_;
+    setp(area_.get(), area_.get() + areaSize_);
+    scanned_ = area_.get();
+}
+
+bool DocumentFileBuffer::Drain()
+{
+    const wchar_t* const first = pbase();
+    const wchar_t* const last = pptr();
+    const wchar_t* const looked = scanned_;
+    ResetArea();
+    if (broken_) {
+        // What stands in the area came after the character that broke the
+        // file.
+        return false;
     }
-    const bool written = file_.Write(pending_.data(), pending_.size());
-    pending_.clear();
-    if (!written) {
+    // Everything before `looked` was looked through by sync already.
+    const wchar_t* stop = last;
+    for (const wchar_t* p = looked; p != last; ++p) {
+        if (!FitsAByte(*p)) {
+            stop = p;
+            broken_ = true;
+            break;
+        }
+    }
+    char* const start = bytes_.get();
+    char* out = start;
+    const wchar_t* p = first;
+    while (p != stop) {
+        // A run up to the next line feed, one byte each; then CR LF.
+        const wchar_t* const lineFeed = std::find(p, stop, L'\n');
+        const std::size_t run = static_cast<std::size_t>(lineFeed - p);
+        for (std::size_t i = 0; i < run; ++i) {
+            out[i] = static_cast<char>(static_cast<unsigned char>(p[i]));
+        }
+        out += run;
+        p = lineFeed;
+        if (p != stop) {
+            *out++ = '\r';
+            *out++ = '\n';
+            ++p;
+        }
+    }
+    if (out != start && !file_.Write(start, static_cast<std::size_t>(out - start))) {
         broken_ = true;
     }
-    return written;
+    return !broken_;
 }
 
 DocumentFileBuffer::int_type DocumentFileBuffer::overflow(int_type c)
 {
+    if (!file_.IsOpen()) {
+        broken_ = true;
+        return traits_type::eof();
+    }
+    if (!Drain()) {
+        return traits_type::eof();
+    }
     if (traits_type::eq_int_type(c, traits_type::eof())) {
-        return sync() == 0 ? traits_type::not_eof(c) : traits_type::eof();
+        return traits_type::not_eof(c);
     }
-    return Put(traits_type::to_char_type(c)) ? c : traits_type::eof();
-}
-
-std::streamsize DocumentFileBuffer::xsputn(const wchar_t* s, std::streamsize n)
-{
-    std::streamsize done = 0;
-    while (done < n && Put(s[done])) {
-        ++done;
+    const wchar_t character = traits_type::to_char_type(c);
+    if (!FitsAByte(character)) {
+        broken_ = true;
+        return traits_type::eof();
     }
-    return done;
+    *pptr() = character;
+    pbump(1);
+    return c;
 }
 
 int DocumentFileBuffer::sync()
 {
-    return WritePending() ? 0 : -1;
+    if (broken_) {
+        return -1;
+    }
+    // Every character's bits together: above 0xFF when one of them is (a
+    // negative character counts as above).
+    std::uint32_t bits = 0;
+    for (const wchar_t* p = scanned_; p != pptr(); ++p) {
+        bits |= static_cast<std::uint32_t>(*p);
+    }
+    if (bits > 0xFF) {
+        // The bytes before the character go to the file now; the file is
+        // broken from it on.
+        Drain();
+        return -1;
+    }
+    scanned_ = pptr();
+    return 0;
 }
 
 } // namespace ItUnitechnik

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "framework/field_buffer.h"
 #include "platform/platform.h"
 
+#include <cstddef>
+#include <memory>
 #include <streambuf>
 #include <string>
 
@@ -10,13 +13,23 @@ namespace ItUnitechnik {
 // The wide stream buffer under the document file. It makes the bytes of the
 // file itself, whatever the platform's text mode or locale: a character up to
 // U+00FF becomes its one byte, a line feed becomes CR LF, and the first
-// character above U+00FF fails the write, so that the stream goes bad and
-// nothing from that character on reaches the file. Over a file that could not
-// be opened the first character fails the same way.
-class DocumentFileBuffer : public std::basic_streambuf<wchar_t> {
+// character above U+00FF breaks the file there: everything before it reaches
+// the file, nothing from it on, and the stream goes bad (at the latest when
+// the line that holds it ends, since a line end asks the buffer to sync).
+// Over a file that could not be opened the first character fails.
+//
+// The characters collect in a put area of the buffer's own, so that the
+// stream hands them over without a call per character; they become bytes and
+// go to the file when the area is full and when the buffer closes. A sync,
+// which every line end asks for, only looks through the characters put since
+// the last one for a character above U+00FF.
+class DocumentFileBuffer : public FieldBuffer {
 public:
-    // Opens the file for output only, cutting an existing one.
-    explicit DocumentFileBuffer(const std::wstring& path);
+    static constexpr std::size_t defaultAreaSize = 32 * 1024; // characters; 64 KiB of file or less
+
+    // Opens the file for output only, cutting an existing one. The put area
+    // holds `areaSize` characters (at least one).
+    explicit DocumentFileBuffer(const std::wstring& path, std::size_t areaSize = defaultAreaSize);
     DocumentFileBuffer(const DocumentFileBuffer&) = delete;
     DocumentFileBuffer& operator=(const DocumentFileBuffer&) = delete;
     ~DocumentFileBuffer() override;
@@ -27,15 +40,21 @@ public:
 
 protected:
     int_type overflow(int_type c) override;
-    std::streamsize xsputn(const wchar_t* s, std::streamsize n) override;
     int sync() override;
 
 private:
-    bool Put(wchar_t c);
-    bool WritePending();
+    static bool FitsAByte(wchar_t c);
+    // Turns the characters of the put area into bytes, up to the first one
+    // above U+00FF, writes them and empties the area. False once the file is
+    // broken.
+    bool Drain();
+    void ResetArea();
 
     Platform::OutputFile file_;
-    std::string pending_;
+    std::size_t areaSize_;
+    std::unique_ptr<wchar_t[]> area_;
+    std::unique_ptr<char[]> bytes_; // two bytes for each character at most
+    const wchar_t* scanned_ = nullptr; // the area before this was looked through by sync
     bool broken_ = false;
 };
 

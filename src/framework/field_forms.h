@@ -1,24 +1,36 @@
 #pragma once
 
+#include "framework/field_buffer.h"
+
+#include <cstddef>
 #include <cstdint>
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <vector>
 
 // The field forms of the write side. Each form sets the stream state it names
-// and inserts its value with the stream's ordinary inserter; format flags, fill
-// and precision stay on the stream for the next field, the width is used up by
-// the next insertion. A record's Write is one form per field, in file order.
+// and inserts its value as the stream's ordinary inserter would; format flags,
+// fill and precision stay on the stream for the next field, the width is used
+// up by the next insertion. A record's Write is one form per field, in file
+// order.
+//
+// On a stream that keeps the classic number formats (an Archive, unless
+// someone imbued another locale into it) the forms make their characters
+// themselves, digits, sign and padding, and hand them to the buffer in one
+// piece: the same characters as the inserter's, without its general
+// formatting. On any other stream they go through the inserter.
 namespace ItUnitechnik {
 
 // What a text form does to the adjustment: keep the one the field before left
 // in force, or set it.
 enum class Adjust { keep, left, right };
 
+// Holds a view of the value: use a form in the expression that makes it.
 struct TextForm {
     int width;
-    std::wstring value; // already cut to the width where the form cuts
+    std::wstring_view value; // already cut to the width where the form cuts
     wchar_t fill;
     Adjust adjust;
 };
@@ -71,6 +83,33 @@ IntegerForm<T> Hex(int width, T value)
     return {IntegerForm<T>::Kind::hexField, width, value};
 }
 
+namespace Fields {
+
+// Marks a stream that has just taken the classic number formats; any locale
+// imbued later takes the mark away again. When its buffer is a FieldBuffer,
+// the forms fill that buffer's put area themselves for as long as it stays
+// the stream's buffer.
+void KeepPlainDigits(std::wostream& stream);
+// Whether the stream keeps the classic number formats that an Archive gives
+// it, so that a form may make its own digits.
+bool PlainDigits(std::ios_base& stream);
+
+// An integer as the inserter sees it: for a decimal field its sign and
+// magnitude, and whether its type is signed (only a signed type shows a plus
+// sign); for a hexadecimal field its bit pattern in the width of its type.
+struct IntegerValue {
+    bool negative;
+    bool signedType;
+    unsigned long long magnitude;
+};
+
+// Puts the integer with the stream's width, fill, adjustment, plus sign and
+// case, as the inserter would; false when the form must leave it to the
+// inserter (another number format in force).
+bool PutInteger(std::wostream& os, const IntegerValue& value, bool hexadecimal);
+
+} // namespace Fields
+
 template <class T>
 std::wostream& operator<<(std::wostream& os, const IntegerForm<T>& form)
 {
@@ -97,10 +136,22 @@ std::wostream& operator<<(std::wostream& os, const IntegerForm<T>& form)
         os.setf(std::ios_base::uppercase);
         break;
     }
-    if constexpr (sizeof(T) == 1) {
-        os << static_cast<int>(form.value); // a byte is a number here, never a character
+    // A byte is a number here, never a character.
+    using Value = std::conditional_t<sizeof(T) == 1, int, T>;
+    const Value value = static_cast<Value>(form.value);
+    using Unsigned = std::make_unsigned_t<Value>;
+    Fields::IntegerValue plain{false, std::is_signed<Value>::value, 0};
+    if (form.kind == Kind::hexField) {
+        plain.magnitude = static_cast<Unsigned>(value);
+    } else if constexpr (std::is_signed<Value>::value) {
+        plain.negative = value < 0;
+        const auto wide = static_cast<unsigned long long>(static_cast<long long>(value));
+        plain.magnitude = plain.negative ? 0ULL - wide : wide;
     } else {
-        os << form.value;
+        plain.magnitude = value;
+    }
+    if (!Fields::PutInteger(os, plain, form.kind == Kind::hexField)) {
+        os << value;
     }
     if (form.kind == Kind::hexField) {
         os.setf(std::ios_base::dec, std::ios_base::basefield);

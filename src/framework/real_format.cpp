@@ -1,5 +1,6 @@
 #include "framework/real_format.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <string>
@@ -7,13 +8,21 @@
 namespace ItUnitechnik {
 namespace {
 
+bool NeedsPoint(bool showpoint, const char* first, const char* last)
+{
+    return showpoint && std::find(first, last, '.') == last && std::find(first, last, 'e') == last;
+}
+
+int PrecisionOf(const std::ios_base& str)
+{
+    const int precision = static_cast<int>(str.precision());
+    return precision < 0 ? 6 : precision;
+}
+
 std::string Digits(double value, const std::ios_base& str)
 {
     const std::ios_base::fmtflags floatfield = str.flags() & std::ios_base::floatfield;
-    int precision = static_cast<int>(str.precision());
-    if (precision < 0) {
-        precision = 6;
-    }
+    const int precision = PrecisionOf(str);
     if (std::isnan(value)) {
         return std::signbit(value) ? "-nan" : "nan";
     }
@@ -41,8 +50,7 @@ std::string Digits(double value, const std::ios_base& str)
         }
         text.resize(text.size() * 4);
     }
-    if ((str.flags() & std::ios_base::showpoint) && text.find('.') == std::string::npos
-        && text.find('e') == std::string::npos) {
+    if (NeedsPoint((str.flags() & std::ios_base::showpoint) != 0, text.data(), text.data() + text.size())) {
         text += '.';
     }
     if (str.flags() & std::ios_base::uppercase) {
@@ -100,6 +108,26 @@ RealFormat::iter_type RealFormat::do_put(iter_type out, std::ios_base& str, wcha
                                          long double value) const
 {
     return do_put(out, str, fill, static_cast<double>(value));
+}
+
+std::size_t FixedCharacters(double value, int precision, bool showpoint, char* out, std::size_t capacity)
+{
+    if (!std::isfinite(value)) {
+        return 0;
+    }
+    const std::to_chars_result result =
+        std::to_chars(out, out + capacity, value, std::chars_format::fixed, precision < 0 ? 6 : precision);
+    if (result.ec != std::errc()) {
+        return 0;
+    }
+    std::size_t length = static_cast<std::size_t>(result.ptr - out);
+    if (NeedsPoint(showpoint, out, result.ptr)) {
+        if (length == capacity) {
+            return 0;
+        }
+        out[length++] = '.';
+    }
+    return length;
 }
 
 std::locale ClassicNumberLocale()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <locale>
 #include <ostream>
 
@@ -20,5 +21,11 @@ protected:
 
 // The classic locale with RealFormat in place of its wide number formatter.
 std::locale ClassicNumberLocale();
+
+// The characters that RealFormat makes of a finite double in fixed notation
+// before any padding: sign, digits, and the point that `showpoint` asks for;
+// at most `capacity` of them. Their count, or 0 when they do not fit or the
+// value is not finite.
+std::size_t FixedCharacters(double value, int precision, bool showpoint, char* out, std::size_t capacity);
 
 } // namespace ItUnitechnik

@@ -59,6 +59,24 @@ GeoData& GeoData::operator=(const GeoData& other)
     return *this;
 }
 
+GeoData::GeoData(GeoData&& other) noexcept
+    : Serializable(other), version(other.version), elementKind(other.elementKind), curve(other.curve)
+{
+    other.curve = nullptr;
+}
+
+GeoData& GeoData::operator=(GeoData&& other) noexcept
+{
+    if (this != &other) {
+        version = other.version;
+        elementKind = other.elementKind;
+        delete curve;
+        curve = other.curve;
+        other.curve = nullptr;
+    }
+    return *this;
+}
+
 GeoData::~GeoData()
 {
     delete curve;

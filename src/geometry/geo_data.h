@@ -21,6 +21,9 @@ public:
     GeoData(std::int32_t formatVersion, wchar_t kind, std::unique_ptr<Curve> ownedCurve);
     GeoData(const GeoData& other);
     GeoData& operator=(const GeoData& other);
+    // A move hands the curve over and leaves the source without one.
+    GeoData(GeoData&& other) noexcept;
+    GeoData& operator=(GeoData&& other) noexcept;
     virtual ~GeoData();
 
     // Makes the curve that the kind character names; an unknown kind ends

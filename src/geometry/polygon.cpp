@@ -7,16 +7,7 @@
 namespace ItUnitechnik {
 
 Polygon::Polygon(std::int32_t formatVersion)
-    : Curve(formatVersion), PointCollection(&points), FlagCollection(&segmentFlags)
-{
-}
-
-Polygon::Polygon(const Polygon& other)
-    : Curve(other),
-      PointCollection(&points),
-      FlagCollection(&segmentFlags),
-      points(other.points),
-      segmentFlags(other.segmentFlags)
+    : Curve(formatVersion), PointCollection([](auto& self) -> auto& { return static_cast<Polygon&>(self).points; }), FlagCollection([](auto& self) -> auto& { return static_cast<Polygon&>(self).segmentFlags; })
 {
 }
 

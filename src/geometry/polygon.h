@@ -19,8 +19,10 @@ public:
     using FlagCollection = ItCollectionImpl<std::vector<std::int32_t>>;
 
     explicit Polygon(std::int32_t formatVersion);
-    Polygon(const Polygon& other);
+    Polygon(const Polygon&) = default;
+    Polygon(Polygon&&) noexcept = default;
     Polygon& operator=(const Polygon&) = default;
+    Polygon& operator=(Polygon&&) noexcept = default;
     ~Polygon() override;
 
     // The editing operations of both collections; their element types tell

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace ItUnitechnik {
@@ -11,9 +14,7 @@ namespace {
 // A list record in miniature: counts its hook.
 class Items : public ItCollectionImpl<std::vector<int>> {
 public:
-    Items() : ItCollectionImpl(&items) {}
-    Items(const Items& other) : ItCollectionImpl(&items), items(other.items), log(other.log) {}
-    Items& operator=(const Items&) = default;
+    Items() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Items&>(self).items; }) {}
 
     void Changed() override { log += "inner "; }
 
@@ -24,9 +25,7 @@ public:
 // A record that holds a list record and views it through the class flavour.
 class Holder : public ItCollectionImpl<Items> {
 public:
-    Holder() : ItCollectionImpl(&inner) {}
-    Holder(const Holder& other) : ItCollectionImpl(&inner), inner(other.inner) {}
-    Holder& operator=(const Holder&) = default;
+    Holder() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Holder&>(self).inner; }) {}
 
     void Changed() override { inner.log += "outer "; }
 
@@ -91,6 +90,37 @@ TEST(VectorCollection, ACopyWorksOnItsOwnVector)
     c.Add(3);
     EXPECT_EQ(b.items.size(), 2u);
     EXPECT_EQ(c.items, (std::vector<int>{1, 2, 3}));
+}
+
+TEST(VectorCollection, AMoveWorksOnItsOwnVectorAndCannotThrow)
+{
+    static_assert(std::is_nothrow_move_constructible<Items>::value, "a vector must move it when it grows");
+    static_assert(std::is_nothrow_move_assignable<Items>::value, "a move assignment must not throw");
+    Items a;
+    a.Add(1);
+    a.Add(2);
+    Items b(std::move(a));
+    b.Add(3);
+    EXPECT_EQ(b.items, (std::vector<int>{1, 2, 3}));
+    Items c;
+    c = std::move(b);
+    c.Add(4);
+    EXPECT_EQ(c.items, (std::vector<int>{1, 2, 3, 4}));
+}
+
+TEST(VectorCollection, EachOfAGrownVectorWorksOnItsOwnVector)
+{
+    std::vector<Items> all;
+    for (int i = 0; i < 100; ++i) {
+        all.emplace_back();
+        all.back().Add(i);
+    }
+    for (int i = 0; i < 100; ++i) {
+        all[static_cast<std::size_t>(i)].Add(-i);
+    }
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_EQ(all[static_cast<std::size_t>(i)].items, (std::vector<int>{i, -i}));
+    }
 }
 
 TEST(ClassCollection, InnerHookFiresBeforeOuter)

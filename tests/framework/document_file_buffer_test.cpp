@@ -6,7 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <locale>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace ItUnitechnik {
 namespace {
@@ -54,6 +58,89 @@ TEST(DocumentFileBuffer, ACharacterAboveFFBreaksTheRestOfTheFile)
         ar << Tag("LATER");
     }
     EXPECT_EQ(ReadFileBytes(path), std::string("FIRST\r\nAB"));
+}
+
+// The lines written through a buffer whose put area holds `areaSize`
+// characters, each line ended by the line end; the bytes of the file, and
+// whether the stream was still healthy at the end.
+std::pair<std::string, bool> WrittenThrough(std::size_t areaSize, const std::vector<std::wstring>& lines)
+{
+    TemporaryDirectory dir;
+    const std::string path = dir.File("a.txt");
+    bool healthy = false;
+    {
+        DocumentFileBuffer buffer(Wide(path), areaSize);
+        Archive ar(&buffer);
+        for (const std::wstring& line : lines) {
+            ar << RText(static_cast<int>(line.size()), line) << EndLine;
+        }
+        healthy = Healthy(ar);
+    }
+    return {ReadFileBytes(path), healthy};
+}
+
+// Areas smaller than a line, around every boundary of these lines, and
+// larger than the whole file.
+const std::size_t areaSizes[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 17,
+                                 DocumentFileBuffer::defaultAreaSize, 1 << 20};
+
+TEST(DocumentFileBuffer, TheSameBytesThroughAreasOfAnySize)
+{
+    for (std::size_t areaSize : areaSizes) {
+        SCOPED_TRACE(areaSize);
+        const auto [bytes, healthy] = WrittenThrough(areaSize, {L"HEADER__", L"0012 A\u00E9B", L"", L"END"});
+        EXPECT_EQ(bytes, std::string("HEADER__\r\n0012 A\xE9" "B\r\n\r\nEND\r\n"));
+        EXPECT_TRUE(healthy);
+    }
+}
+
+TEST(DocumentFileBuffer, ACharacterAboveFFAtTheStartWritesNothing)
+{
+    for (std::size_t areaSize : areaSizes) {
+        SCOPED_TRACE(areaSize);
+        const auto [bytes, healthy] = WrittenThrough(areaSize, {L"\u0100AB", L"CD"});
+        EXPECT_EQ(bytes, std::string());
+        EXPECT_FALSE(healthy);
+    }
+}
+
+TEST(DocumentFileBuffer, ACharacterAboveFFInTheMiddleKeepsWhatCameBefore)
+{
+    for (std::size_t areaSize : areaSizes) {
+        SCOPED_TRACE(areaSize);
+        const auto [bytes, healthy] = WrittenThrough(areaSize, {L"AB", L"C\u20ACD", L"EF"});
+        EXPECT_EQ(bytes, std::string("AB\r\nC"));
+        EXPECT_FALSE(healthy);
+    }
+}
+
+TEST(DocumentFileBuffer, ACharacterAboveFFAtTheBoundaryOfTheArea)
+{
+    // With areas of three, four and five characters the character above
+    // U+00FF stands first in an area, last in one, or inside one.
+    for (std::size_t areaSize : {std::size_t{3}, std::size_t{4}, std::size_t{5}}) {
+        SCOPED_TRACE(areaSize);
+        const auto first = WrittenThrough(areaSize, {L"ABC", L"\u0100", L"D"});
+        EXPECT_EQ(first.first, std::string("ABC\r\n"));
+        EXPECT_FALSE(first.second);
+        const auto last = WrittenThrough(areaSize, {L"ABCD\u0100"});
+        EXPECT_EQ(last.first, std::string("ABCD"));
+        EXPECT_FALSE(last.second);
+    }
+}
+
+TEST(DocumentFileBuffer, TheStreamGoesBadByTheEndOfTheLine)
+{
+    TemporaryDirectory dir;
+    const std::string path = dir.File("a.txt");
+    DocumentFileBuffer buffer(Wide(path));
+    Archive ar(&buffer);
+    ar << Text(3, L"A\u0100B");
+    ar << EndLine;
+    EXPECT_TRUE(ar.bad());
+    ar << Tag("LATER");
+    buffer.Close();
+    EXPECT_EQ(ReadFileBytes(path), std::string("A"));
 }
 
 TEST(DocumentFileBuffer, TheSameCharacterIsKeptInAStringBuffer)

@@ -6,18 +6,19 @@
 
 #include <locale>
 #include <sstream>
+#include <utility>
 
 namespace ItUnitechnik {
 
 ElementPart::ElementPart()
-    : ItCollectionImpl<std::vector<ConcreteLayer>>(&concreteLayers),
-      ItCollectionImpl<std::vector<Contour>>(&contourData.contours),
-      ItCollectionImpl<std::vector<Cutout>>(&cutoutData.cutouts),
-      ItCollectionImpl<std::vector<MountingPart>>(&mountingPartData.parts),
-      ItCollectionImpl<std::vector<Rodstock>>(&rodstockData.bars),
-      ItCollectionImpl<std::vector<BracedGirder>>(&bracedGirderData.girders),
-      ItCollectionImpl<std::vector<ExternalIron>>(&externalIronData.irons),
-      ItCollectionImpl<std::vector<Layer>>(&layers)
+    : ItCollectionImpl<std::vector<ConcreteLayer>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).concreteLayers; }),
+      ItCollectionImpl<std::vector<Contour>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).contourData.contours; }),
+      ItCollectionImpl<std::vector<Cutout>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).cutoutData.cutouts; }),
+      ItCollectionImpl<std::vector<MountingPart>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).mountingPartData.parts; }),
+      ItCollectionImpl<std::vector<Rodstock>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).rodstockData.bars; }),
+      ItCollectionImpl<std::vector<BracedGirder>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).bracedGirderData.girders; }),
+      ItCollectionImpl<std::vector<ExternalIron>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).externalIronData.irons; }),
+      ItCollectionImpl<std::vector<Layer>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).layers; })
 {
     codeA1 = L"0";
     codeA2 = L"00";
@@ -28,54 +29,77 @@ ElementPart::ElementPart()
     textB8 = L"        ";
 }
 
-ElementPart::ElementPart(const ElementPart& other)
-    : Serializable(other),
-      ItCollectionImpl<std::vector<ConcreteLayer>>(&concreteLayers),
-      ItCollectionImpl<std::vector<Contour>>(&contourData.contours),
-      ItCollectionImpl<std::vector<Cutout>>(&cutoutData.cutouts),
-      ItCollectionImpl<std::vector<MountingPart>>(&mountingPartData.parts),
-      ItCollectionImpl<std::vector<Rodstock>>(&rodstockData.bars),
-      ItCollectionImpl<std::vector<BracedGirder>>(&bracedGirderData.girders),
-      ItCollectionImpl<std::vector<ExternalIron>>(&externalIronData.irons),
-      ItCollectionImpl<std::vector<Layer>>(&layers)
-{
-    *this = other;
-}
-
 void ElementPart::Changed()
 {
-    recomputeExtents();
+    updateExtents();
 }
 
-void ElementPart::recomputeExtents()
+void ElementPart::SetExtents(const BoundingBox& box)
 {
-    const BoundingBox box = contourData.boundingBox();
     extentX = static_cast<std::int32_t>(static_cast<std::uint32_t>(box.max.x)
                                         - static_cast<std::uint32_t>(box.min.x));
     extentY = static_cast<std::int32_t>(static_cast<std::uint32_t>(box.max.y)
                                         - static_cast<std::uint32_t>(box.min.y));
 }
 
+void ElementPart::recomputeExtents()
+{
+    contourBox_ = contourData.boundingBox();
+    contourBoxCount_ = contourData.contours.size();
+    SetExtents(contourBox_);
+}
+
+void ElementPart::updateExtents()
+{
+    if (contourBoxCount_ != contourData.contours.size()) {
+        recomputeExtents();
+        return;
+    }
+    SetExtents(contourBox_);
+}
+
+void ElementPart::ExpectContour(const Contour& contour)
+{
+    if (contourBoxCount_ == contourData.contours.size()) {
+        contourBox_.widen(contour.boundingBox());
+        ++contourBoxCount_;
+    }
+}
+
+ItCollectionImpl<std::vector<Contour>>::iterator ElementPart::Insert(
+    ItCollectionImpl<std::vector<Contour>>::iterator position, const Contour& contour)
+{
+    ExpectContour(contour);
+    return ItCollectionImpl<std::vector<Contour>>::Insert(position, contour);
+}
+
+void ElementPart::Add(const Contour& contour)
+{
+    ExpectContour(contour);
+    ItCollectionImpl<std::vector<Contour>>::Add(contour);
+}
+
 void ElementPart::appendContour(Contour contour)
 {
     contour.version = contourData.version;
     contour.contourNumber = static_cast<std::int32_t>(contourData.contours.size()) + 1;
-    contourData.contours.push_back(contour);
-    recomputeExtents();
+    ExpectContour(contour);
+    contourData.contours.push_back(std::move(contour));
+    updateExtents();
 }
 
 void ElementPart::appendRodstock(Rodstock rodstock)
 {
     rodstockData.appendRodstock(rodstock);
-    recomputeExtents();
+    updateExtents();
 }
 
 void ElementPart::appendCutout(Cutout cutout)
 {
     cutout.version = cutoutData.version;
     cutout.cutoutNumber = static_cast<std::int32_t>(cutoutData.cutouts.size()) + 1;
-    cutoutData.cutouts.push_back(cutout);
-    recomputeExtents();
+    cutoutData.cutouts.push_back(std::move(cutout));
+    updateExtents();
 }
 
 bool ElementPart::HasLongLines() const
@@ -316,6 +340,9 @@ void ElementPart::Rewind(Archive& ar, std::wistream::pos_type position)
 
 bool ElementPart::Read(Archive& ar)
 {
+    // What is read lands straight in the vectors: the kept box no longer
+    // stands for the contours.
+    contourBoxCount_ = static_cast<std::size_t>(-1);
     if (!ExpectToken(ar, L"SLABDATE")) {
         return false;
     }

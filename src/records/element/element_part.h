@@ -35,8 +35,6 @@ class ElementPart : public Serializable,
                     public ItCollectionImpl<std::vector<Layer>> {
 public:
     ElementPart();
-    ElementPart(const ElementPart& other);
-    ElementPart& operator=(const ElementPart& other) = default;
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
@@ -44,7 +42,6 @@ public:
     // The collections' operations by element type; Clear is called through
     // the base of the collection meant.
     using ItCollectionImpl<std::vector<ConcreteLayer>>::Insert;
-    using ItCollectionImpl<std::vector<Contour>>::Insert;
     using ItCollectionImpl<std::vector<Cutout>>::Insert;
     using ItCollectionImpl<std::vector<MountingPart>>::Insert;
     using ItCollectionImpl<std::vector<Rodstock>>::Insert;
@@ -52,7 +49,6 @@ public:
     using ItCollectionImpl<std::vector<ExternalIron>>::Insert;
     using ItCollectionImpl<std::vector<Layer>>::Insert;
     using ItCollectionImpl<std::vector<ConcreteLayer>>::Add;
-    using ItCollectionImpl<std::vector<Contour>>::Add;
     using ItCollectionImpl<std::vector<Cutout>>::Add;
     using ItCollectionImpl<std::vector<MountingPart>>::Add;
     using ItCollectionImpl<std::vector<Rodstock>>::Add;
@@ -76,12 +72,25 @@ public:
     using ItCollectionImpl<std::vector<ExternalIron>>::Remove;
     using ItCollectionImpl<std::vector<Layer>>::Remove;
 
+    // A contour added or inserted can only widen the box of the outline:
+    // the element widens the box it keeps by the new contour alone.
+    ItCollectionImpl<std::vector<Contour>>::iterator Insert(
+        ItCollectionImpl<std::vector<Contour>>::iterator position, const Contour& contour) override;
+    void Add(const Contour& contour) override;
+
     // Every change through any of the element's collections keeps its size.
     void Changed() override;
     // The extents become the width and height of the box around the
     // contours, in 32-bit unsigned differences: with no contour the inverted
-    // box gives 1 and 1.
+    // box gives 1 and 1. This goes through every piece of every contour.
     void recomputeExtents();
+    // The same extents, from the box of the contours that the element keeps
+    // as they are added; only when the number of contours is no longer the
+    // one that box was made for (a removal, or a change straight on
+    // contourData.contours) does it go through all of them again. A change
+    // to the pieces of a contour already in the element, made straight on
+    // that contour, is seen by recomputeExtents alone.
+    void updateExtents();
     // Numbers the contour behind those there are, gives it the version of
     // contourData, appends it with no hook and recomputes the extents.
     void appendContour(Contour contour);
@@ -165,6 +174,17 @@ public:
     std::vector<Layer> layers;         // when there are any, the only records behind "END"
 
 private:
+    // Counts the contour in the kept box before it lands in the vector. If
+    // the vector then fails to take it, the counts differ and the next
+    // update goes through all contours again.
+    void ExpectContour(const Contour& contour);
+    void SetExtents(const BoundingBox& box);
+
+    // The box of the first contourBoxCount_ contours; stands for the box of
+    // all of them while their number is contourBoxCount_.
+    BoundingBox contourBox_;
+    std::size_t contourBoxCount_ = 0;
+
     // Versions up to 500 carry the short lines A and B; the single value 5
     // counts as above 500 here.
     bool HasLongLines() const;

@@ -7,24 +7,8 @@
 namespace ItUnitechnik {
 
 Layer::Layer()
-    : ItCollectionImpl<std::vector<Lot>>(&lots),
-      ItCollectionImpl<std::vector<MountingPart>>(&mountingPartData.parts)
-{
-}
-
-Layer::Layer(const Layer& other)
-    : Serializable(other),
-      ItCollectionImpl<std::vector<Lot>>(&lots),
-      ItCollectionImpl<std::vector<MountingPart>>(&mountingPartData.parts),
-      version(other.version),
-      layerValue1(other.layerValue1),
-      layerValue2(other.layerValue2),
-      layerValue3(other.layerValue3),
-      layerValue4(other.layerValue4),
-      lotCount(other.lotCount),
-      lots(other.lots),
-      mountingPartData(other.mountingPartData),
-      reinforcement(other.reinforcement)
+    : ItCollectionImpl<std::vector<Lot>>([](auto& self) -> auto& { return static_cast<Layer&>(self).lots; }),
+      ItCollectionImpl<std::vector<MountingPart>>([](auto& self) -> auto& { return static_cast<Layer&>(self).mountingPartData.parts; })
 {
 }
 

@@ -21,8 +21,6 @@ class Layer : public Serializable,
               public ItCollectionImpl<std::vector<MountingPart>> {
 public:
     Layer();
-    Layer(const Layer& other);
-    Layer& operator=(const Layer&) = default;
 
     // A wrong tag clears `valid`: the element finds the end of its layers
     // that way. A lot that fails is not kept and does not stop the lots.

@@ -7,28 +7,8 @@
 namespace ItUnitechnik {
 
 Lot::Lot()
-    : ItCollectionImpl<std::vector<Contour>>(&contourData.contours),
-      ItCollectionImpl<std::vector<Cutout>>(&cutoutData.cutouts)
-{
-}
-
-Lot::Lot(const Lot& other)
-    : Serializable(other),
-      ItCollectionImpl<std::vector<Contour>>(&contourData.contours),
-      ItCollectionImpl<std::vector<Cutout>>(&cutoutData.cutouts),
-      version(other.version),
-      lotNumber(other.lotNumber),
-      lotText(other.lotText),
-      lotReal1(other.lotReal1),
-      lotCode2(other.lotCode2),
-      lotReal2(other.lotReal2),
-      lotValue1(other.lotValue1),
-      lotValue2(other.lotValue2),
-      lotValue3(other.lotValue3),
-      lotValue4(other.lotValue4),
-      lotText20(other.lotText20),
-      contourData(other.contourData),
-      cutoutData(other.cutoutData)
+    : ItCollectionImpl<std::vector<Contour>>([](auto& self) -> auto& { return static_cast<Lot&>(self).contourData.contours; }),
+      ItCollectionImpl<std::vector<Cutout>>([](auto& self) -> auto& { return static_cast<Lot&>(self).cutoutData.cutouts; })
 {
 }
 

@@ -20,8 +20,6 @@ class Lot : public Serializable,
             public ItCollectionImpl<std::vector<Cutout>> {
 public:
     Lot();
-    Lot(const Lot& other);
-    Lot& operator=(const Lot&) = default;
 
     // A wrong tag clears `valid`; a failing outline list leaves `valid` as
     // the list left it. Behind the closing tag the stream is not tested.

@@ -4,16 +4,18 @@
 #include "framework/field_forms.h"
 #include "framework/read_idioms.h"
 
+#include <utility>
+
 namespace ItUnitechnik {
 
-Order::Order() : ItCollectionImpl<std::vector<ElementPart>>(&elementParts)
+Order::Order() : ItCollectionImpl<std::vector<ElementPart>>([](auto& self) -> auto& { return static_cast<Order&>(self).elementParts; })
 {
     date.version = version;
 }
 
 Order::Order(const Order& other)
     : Serializable(other),
-      ItCollectionImpl<std::vector<ElementPart>>(&elementParts),
+      ItCollectionImpl<std::vector<ElementPart>>(other),
       version(other.version),
       orderNumber(other.orderNumber),
       orderText5(other.orderText5),
@@ -29,6 +31,28 @@ Order::Order(const Order& other)
       date(other.date),
       orderText40(other.orderText40),
       elementParts(other.elementParts)
+{
+    date.version = version;
+}
+
+Order::Order(Order&& other) noexcept
+    : Serializable(other),
+      ItCollectionImpl<std::vector<ElementPart>>(std::move(other)),
+      version(std::move(other.version)),
+      orderNumber(std::move(other.orderNumber)),
+      orderText5(std::move(other.orderText5)),
+      orderText4(std::move(other.orderText4)),
+      orderText8(std::move(other.orderText8)),
+      orderValue2(std::move(other.orderValue2)),
+      legacyText2(std::move(other.legacyText2)),
+      legacyText40(std::move(other.legacyText40)),
+      orderText2(std::move(other.orderText2)),
+      project(std::move(other.project)),
+      firstAddress(std::move(other.firstAddress)),
+      secondAddress(std::move(other.secondAddress)),
+      date(std::move(other.date)),
+      orderText40(std::move(other.orderText40)),
+      elementParts(std::move(other.elementParts))
 {
     date.version = version;
 }
@@ -50,6 +74,31 @@ Order& Order::operator=(const Order& other)
     date = other.date;
     orderText40 = other.orderText40;
     elementParts = other.elementParts;
+    date.version = version;
+    return *this;
+}
+
+Order& Order::operator=(Order&& other) noexcept
+{
+    if (this == &other) {
+        date.version = version;
+        return *this;
+    }
+    version = std::move(other.version);
+    orderNumber = std::move(other.orderNumber);
+    orderText5 = std::move(other.orderText5);
+    orderText4 = std::move(other.orderText4);
+    orderText8 = std::move(other.orderText8);
+    orderValue2 = std::move(other.orderValue2);
+    legacyText2 = std::move(other.legacyText2);
+    legacyText40 = std::move(other.legacyText40);
+    orderText2 = std::move(other.orderText2);
+    project = std::move(other.project);
+    firstAddress = std::move(other.firstAddress);
+    secondAddress = std::move(other.secondAddress);
+    date = std::move(other.date);
+    orderText40 = std::move(other.orderText40);
+    elementParts = std::move(other.elementParts);
     date.version = version;
     return *this;
 }

@@ -18,8 +18,11 @@ namespace ItUnitechnik {
 class Order : public Serializable, public ItCollectionImpl<std::vector<ElementPart>> {
 public:
     Order();
+    // Copies and moves store the version into the date again.
     Order(const Order& other);
+    Order(Order&& other) noexcept;
     Order& operator=(const Order& other);
+    Order& operator=(Order&& other) noexcept;
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;

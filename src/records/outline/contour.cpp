@@ -6,17 +6,7 @@
 
 namespace ItUnitechnik {
 
-Contour::Contour(std::int32_t formatVersion) : ItCollectionImpl(&geoData), version(formatVersion) {}
-
-Contour::Contour(const Contour& other)
-    : Serializable(other),
-      ItCollectionImpl(&geoData),
-      version(other.version),
-      contourNumber(other.contourNumber),
-      contourCode(other.contourCode),
-      geoData(other.geoData)
-{
-}
+Contour::Contour(std::int32_t formatVersion) : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Contour&>(self).geoData; }), version(formatVersion) {}
 
 bool Contour::Write(Archive& ar)
 {
@@ -49,12 +39,7 @@ bool Contour::Read(Archive& ar)
     return Healthy(ar);
 }
 
-ContourData::ContourData() : ItCollectionImpl(&contours) {}
-
-ContourData::ContourData(const ContourData& other)
-    : Serializable(other), ItCollectionImpl(&contours), version(other.version), contours(other.contours)
-{
-}
+ContourData::ContourData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<ContourData&>(self).contours; }) {}
 
 bool ContourData::Write(Archive& ar)
 {
@@ -83,17 +68,22 @@ bool ContourData::Read(Archive& ar)
     return Healthy(ar);
 }
 
+BoundingBox Contour::boundingBox() const
+{
+    BoundingBox box;
+    for (const GeoData& element : geoData) {
+        if (element.curve != nullptr) {
+            box.widen(element.curve->boundingBox());
+        }
+    }
+    return box;
+}
+
 BoundingBox ContourData::boundingBox() const
 {
     BoundingBox box;
     for (const Contour& contour : contours) {
-        BoundingBox contourBox;
-        for (const GeoData& element : contour.geoData) {
-            if (element.curve != nullptr) {
-                contourBox.widen(element.curve->boundingBox());
-            }
-        }
-        box.widen(contourBox);
+        box.widen(contour.boundingBox());
     }
     return box;
 }

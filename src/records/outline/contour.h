@@ -15,11 +15,12 @@ namespace ItUnitechnik {
 class Contour : public Serializable, public ItCollectionImpl<std::vector<GeoData>> {
 public:
     explicit Contour(std::int32_t formatVersion);
-    Contour(const Contour& other);
-    Contour& operator=(const Contour&) = default;
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
+
+    // The box of all its curves; the inverted box when there is none.
+    BoundingBox boundingBox() const;
 
     std::int32_t version;            // not written; handed on to the elements that Read makes
     std::int32_t contourNumber = 0;  // first field, running number from 1
@@ -31,8 +32,6 @@ public:
 class ContourData : public Serializable, public ItCollectionImpl<std::vector<Contour>> {
 public:
     ContourData();
-    ContourData(const ContourData& other);
-    ContourData& operator=(const ContourData&) = default;
 
     // Reads the record's own version from its second line and appends the
     // contours; a wrong "END" fails the Read but leaves `valid` alone.

@@ -6,18 +6,7 @@
 
 namespace ItUnitechnik {
 
-Cutout::Cutout(std::int32_t formatVersion) : ItCollectionImpl(&geoData), version(formatVersion) {}
-
-Cutout::Cutout(const Cutout& other)
-    : Serializable(other),
-      ItCollectionImpl(&geoData),
-      version(other.version),
-      cutoutNumber(other.cutoutNumber),
-      cutoutValue(other.cutoutValue),
-      cutoutName(other.cutoutName),
-      geoData(other.geoData)
-{
-}
+Cutout::Cutout(std::int32_t formatVersion) : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Cutout&>(self).geoData; }), version(formatVersion) {}
 
 bool Cutout::Write(Archive& ar)
 {
@@ -50,12 +39,7 @@ bool Cutout::Read(Archive& ar)
     return Healthy(ar);
 }
 
-CutoutData::CutoutData() : ItCollectionImpl(&cutouts) {}
-
-CutoutData::CutoutData(const CutoutData& other)
-    : Serializable(other), ItCollectionImpl(&cutouts), version(other.version), cutouts(other.cutouts)
-{
-}
+CutoutData::CutoutData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<CutoutData&>(self).cutouts; }) {}
 
 bool CutoutData::Write(Archive& ar)
 {

@@ -15,8 +15,6 @@ namespace ItUnitechnik {
 class Cutout : public Serializable, public ItCollectionImpl<std::vector<GeoData>> {
 public:
     explicit Cutout(std::int32_t formatVersion);
-    Cutout(const Cutout& other);
-    Cutout& operator=(const Cutout&) = default;
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
@@ -32,8 +30,6 @@ public:
 class CutoutData : public Serializable, public ItCollectionImpl<std::vector<Cutout>> {
 public:
     CutoutData();
-    CutoutData(const CutoutData& other);
-    CutoutData& operator=(const CutoutData&) = default;
 
     // A wrong tag at either end clears the Archive's `valid`.
     bool Read(Archive& ar) override;

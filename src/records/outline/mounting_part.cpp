@@ -6,30 +6,7 @@
 
 namespace ItUnitechnik {
 
-MountingPart::MountingPart(std::int16_t formatVersion) : ItCollectionImpl(&geoData), version(formatVersion) {}
-
-MountingPart::MountingPart(const MountingPart& other)
-    : Serializable(other),
-      ItCollectionImpl(&geoData),
-      version(other.version),
-      partNumber(other.partNumber),
-      geoData(other.geoData),
-      partKind(other.partKind),
-      partSubCode(other.partSubCode),
-      partCode(other.partCode),
-      partName(other.partName),
-      partText1(other.partText1),
-      partText2(other.partText2),
-      partArea(other.partArea),
-      setValue1(other.setValue1),
-      setValue2(other.setValue2),
-      position(other.position),
-      partValue1(other.partValue1),
-      partValue2(other.partValue2),
-      partWidth(other.partWidth),
-      partHeight(other.partHeight)
-{
-}
+MountingPart::MountingPart(std::int16_t formatVersion) : ItCollectionImpl([](auto& self) -> auto& { return static_cast<MountingPart&>(self).geoData; }), version(formatVersion) {}
 
 bool MountingPart::Write(Archive& ar)
 {
@@ -101,12 +78,7 @@ bool MountingPart::Read(Archive& ar)
     return Healthy(ar);
 }
 
-MountingPartData::MountingPartData() : ItCollectionImpl(&parts) {}
-
-MountingPartData::MountingPartData(const MountingPartData& other)
-    : Serializable(other), ItCollectionImpl(&parts), version(other.version), parts(other.parts)
-{
-}
+MountingPartData::MountingPartData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<MountingPartData&>(self).parts; }) {}
 
 bool MountingPartData::Write(Archive& ar)
 {

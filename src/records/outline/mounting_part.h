@@ -17,8 +17,6 @@ namespace ItUnitechnik {
 class MountingPart : public Serializable, public ItCollectionImpl<std::vector<GeoData>> {
 public:
     explicit MountingPart(std::int16_t formatVersion);
-    MountingPart(const MountingPart& other);
-    MountingPart& operator=(const MountingPart&) = default;
 
     // Behind a line or polygon element, which has already skipped its own
     // line end, the closing skip of this reader drops the whole next line.
@@ -48,8 +46,6 @@ public:
 class MountingPartData : public Serializable, public ItCollectionImpl<std::vector<MountingPart>> {
 public:
     MountingPartData();
-    MountingPartData(const MountingPartData& other);
-    MountingPartData& operator=(const MountingPartData&) = default;
 
     // A wrong tag at either end clears the Archive's `valid`.
     bool Read(Archive& ar) override;

@@ -26,12 +26,7 @@ public:
 // The anchor bars of a braced girder, behind the girder's lines; no tag.
 class AnchorBarData : public Serializable, public ItCollectionImpl<std::vector<AnchorBar>> {
 public:
-    AnchorBarData() : ItCollectionImpl(&bars) {}
-    AnchorBarData(const AnchorBarData& other)
-        : Serializable(other), ItCollectionImpl(&bars), anchorCode(other.anchorCode), bars(other.bars)
-    {
-    }
-    AnchorBarData& operator=(const AnchorBarData&) = default;
+    AnchorBarData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<AnchorBarData&>(self).bars; }) {}
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;

@@ -27,13 +27,8 @@ public:
 // One line of a free bending form: its number and up to six segments.
 class BendingFormPart : public Serializable, public ItCollectionImpl<std::vector<BendingFormSegment>> {
 public:
-    BendingFormPart() : ItCollectionImpl(&segments) {}
-    explicit BendingFormPart(std::int32_t number) : ItCollectionImpl(&segments), partNumber(number) {}
-    BendingFormPart(const BendingFormPart& other)
-        : Serializable(other), ItCollectionImpl(&segments), partNumber(other.partNumber), segments(other.segments)
-    {
-    }
-    BendingFormPart& operator=(const BendingFormPart&) = default;
+    BendingFormPart() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BendingFormPart&>(self).segments; }) {}
+    explicit BendingFormPart(std::int32_t number) : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BendingFormPart&>(self).segments; }), partNumber(number) {}
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
@@ -46,12 +41,7 @@ public:
 // second line. The last line is ended by whoever writes the bar.
 class BendingFormFree : public Serializable, public ItCollectionImpl<std::vector<BendingFormPart>> {
 public:
-    BendingFormFree() : ItCollectionImpl(&parts) {}
-    BendingFormFree(const BendingFormFree& other)
-        : Serializable(other), ItCollectionImpl(&parts), formCode(other.formCode), parts(other.parts)
-    {
-    }
-    BendingFormFree& operator=(const BendingFormFree&) = default;
+    BendingFormFree() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BendingFormFree&>(self).parts; }) {}
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;

@@ -7,34 +7,7 @@
 namespace ItUnitechnik {
 
 BracedGirder::BracedGirder()
-    : ItCollectionImpl<WeldingPointData>(&weldingPoints), ItCollectionImpl<AnchorBarData>(&anchorBars)
-{
-}
-
-BracedGirder::BracedGirder(const BracedGirder& other)
-    : Serializable(other),
-      ItCollectionImpl<WeldingPointData>(&weldingPoints),
-      ItCollectionImpl<AnchorBarData>(&anchorBars),
-      number(other.number),
-      code(other.code),
-      typeNumber(other.typeNumber),
-      designation(other.designation),
-      firstSize(other.firstSize),
-      position(other.position),
-      positionZ(other.positionZ),
-      rotation(other.rotation),
-      mountFlag(other.mountFlag),
-      firstCode(other.firstCode),
-      secondCode(other.secondCode),
-      auxNumber(other.auxNumber),
-      scaledValue(other.scaledValue),
-      shortNumber(other.shortNumber),
-      thirdCode(other.thirdCode),
-      lastNumber(other.lastNumber),
-      hasAnchorBars(other.hasAnchorBars),
-      hasWeldingPoints(other.hasWeldingPoints),
-      weldingPoints(other.weldingPoints),
-      anchorBars(other.anchorBars)
+    : ItCollectionImpl<WeldingPointData>([](auto& self) -> auto& { return static_cast<BracedGirder&>(self).weldingPoints; }), ItCollectionImpl<AnchorBarData>([](auto& self) -> auto& { return static_cast<BracedGirder&>(self).anchorBars; })
 {
 }
 

@@ -19,8 +19,6 @@ class BracedGirder : public Serializable,
                      public ItCollectionImpl<AnchorBarData> {
 public:
     BracedGirder();
-    BracedGirder(const BracedGirder& other);
-    BracedGirder& operator=(const BracedGirder&) = default;
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
@@ -50,12 +48,7 @@ public:
 // The record "BRGIRDER": the braced girders of an element or of a mat.
 class BracedGirderData : public Serializable, public ItCollectionImpl<std::vector<BracedGirder>> {
 public:
-    BracedGirderData() : ItCollectionImpl(&girders) {}
-    BracedGirderData(const BracedGirderData& other)
-        : Serializable(other), ItCollectionImpl(&girders), version(other.version), girders(other.girders)
-    {
-    }
-    BracedGirderData& operator=(const BracedGirderData&) = default;
+    BracedGirderData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BracedGirderData&>(self).girders; }) {}
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;

@@ -28,12 +28,7 @@ public:
 // reinforcement block.
 class ExternalIronData : public Serializable, public ItCollectionImpl<std::vector<ExternalIron>> {
 public:
-    ExternalIronData() : ItCollectionImpl(&irons) {}
-    ExternalIronData(const ExternalIronData& other)
-        : Serializable(other), ItCollectionImpl(&irons), version(other.version), irons(other.irons)
-    {
-    }
-    ExternalIronData& operator=(const ExternalIronData&) = default;
+    ExternalIronData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<ExternalIronData&>(self).irons; }) {}
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;

@@ -20,21 +20,6 @@ void Rewind(Archive& ar, std::streampos at)
 
 } // namespace
 
-Reinforcement::Reinforcement(const Reinforcement& other)
-    : Serializable(other),
-      ItCollectionImpl(&mats),
-      version(other.version),
-      firstText(other.firstText),
-      secondText(other.secondText),
-      thirdText(other.thirdText),
-      matFlag(other.matFlag),
-      mats(other.mats),
-      externalIrons(other.externalIrons),
-      hasExternalIrons(other.hasExternalIrons),
-      present(other.present)
-{
-}
-
 std::int16_t Reinforcement::appendSteelmat(const std::wstring& name, std::int32_t firstDimension,
                                            std::int32_t secondDimension, std::int32_t firstFlag,
                                            std::int32_t secondFlag, std::int32_t matKind,

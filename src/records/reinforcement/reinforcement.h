@@ -16,9 +16,7 @@ namespace ItUnitechnik {
 // its own.
 class Reinforcement : public Serializable, public ItCollectionImpl<std::vector<Steelmat>> {
 public:
-    Reinforcement() : ItCollectionImpl(&mats) {}
-    Reinforcement(const Reinforcement& other);
-    Reinforcement& operator=(const Reinforcement&) = default;
+    Reinforcement() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Reinforcement&>(self).mats; }) {}
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;

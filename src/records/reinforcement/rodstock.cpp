@@ -7,42 +7,7 @@
 namespace ItUnitechnik {
 
 Rodstock::Rodstock(std::int16_t barVersion)
-    : ItCollectionImpl<SpacerData>(&spacers), ItCollectionImpl<WeldingPointData>(&weldingPoints), version(barVersion)
-{
-}
-
-Rodstock::Rodstock(const Rodstock& other)
-    : Serializable(other),
-      ItCollectionImpl<SpacerData>(&spacers),
-      ItCollectionImpl<WeldingPointData>(&weldingPoints),
-      version(other.version),
-      number(other.number),
-      code(other.code),
-      rodKind(other.rodKind),
-      designation(other.designation),
-      firstSize(other.firstSize),
-      secondSize(other.secondSize),
-      thirdSize(other.thirdSize),
-      position(other.position),
-      positionZ(other.positionZ),
-      rotation(other.rotation),
-      extraDesignation(other.extraDesignation),
-      mountFlag(other.mountFlag),
-      auxFirst(other.auxFirst),
-      auxSecond(other.auxSecond),
-      auxThird(other.auxThird),
-      auxFourth(other.auxFourth),
-      auxFifth(other.auxFifth),
-      auxSixth(other.auxSixth),
-      hasWeldingPoints(other.hasWeldingPoints),
-      hasSpacers(other.hasSpacers),
-      bendingKind(other.bendingKind),
-      firstForm(other.firstForm),
-      secondForm(other.secondForm),
-      formAngle(other.formAngle),
-      freeForm(other.freeForm),
-      spacers(other.spacers),
-      weldingPoints(other.weldingPoints)
+    : ItCollectionImpl<SpacerData>([](auto& self) -> auto& { return static_cast<Rodstock&>(self).spacers; }), ItCollectionImpl<WeldingPointData>([](auto& self) -> auto& { return static_cast<Rodstock&>(self).weldingPoints; }), version(barVersion)
 {
 }
 

@@ -23,8 +23,6 @@ public:
     // A bar is always made for a version: it decides the width of
     // `designation`.
     explicit Rodstock(std::int16_t barVersion);
-    Rodstock(const Rodstock& other);
-    Rodstock& operator=(const Rodstock&) = default;
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
@@ -67,12 +65,7 @@ public:
 // The record "RODSTOCK": the loose bars of an element or the bars of a mat.
 class RodstockData : public Serializable, public ItCollectionImpl<std::vector<Rodstock>> {
 public:
-    RodstockData() : ItCollectionImpl(&bars) {}
-    RodstockData(const RodstockData& other)
-        : Serializable(other), ItCollectionImpl(&bars), version(other.version), bars(other.bars)
-    {
-    }
-    RodstockData& operator=(const RodstockData&) = default;
+    RodstockData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<RodstockData&>(self).bars; }) {}
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;

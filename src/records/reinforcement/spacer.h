@@ -32,12 +32,7 @@ public:
 class SpacerData : public Serializable, public ItCollectionImpl<std::vector<SpacerPosition>> {
 public:
     // A list that was never read writes the code 0.
-    SpacerData() : ItCollectionImpl(&positions) {}
-    SpacerData(const SpacerData& other)
-        : Serializable(other), ItCollectionImpl(&positions), spacerCode(other.spacerCode), positions(other.positions)
-    {
-    }
-    SpacerData& operator=(const SpacerData&) = default;
+    SpacerData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<SpacerData&>(self).positions; }) {}
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;

@@ -6,29 +6,7 @@
 
 namespace ItUnitechnik {
 
-Steelmat::Steelmat() : ItCollectionImpl<RodstockData>(&rodstocks), ItCollectionImpl<BracedGirderData>(&girders) {}
-
-Steelmat::Steelmat(const Steelmat& other)
-    : Serializable(other),
-      ItCollectionImpl<RodstockData>(&rodstocks),
-      ItCollectionImpl<BracedGirderData>(&girders),
-      version(other.version),
-      number(other.number),
-      positionX(other.positionX),
-      positionY(other.positionY),
-      positionZ(other.positionZ),
-      firstFlag(other.firstFlag),
-      secondFlag(other.secondFlag),
-      name(other.name),
-      firstDimension(other.firstDimension),
-      secondDimension(other.secondDimension),
-      matKind(other.matKind),
-      extraTextA(other.extraTextA),
-      extraTextB(other.extraTextB),
-      rodstocks(other.rodstocks),
-      girders(other.girders)
-{
-}
+Steelmat::Steelmat() : ItCollectionImpl<RodstockData>([](auto& self) -> auto& { return static_cast<Steelmat&>(self).rodstocks; }), ItCollectionImpl<BracedGirderData>([](auto& self) -> auto& { return static_cast<Steelmat&>(self).girders; }) {}
 
 bool Steelmat::Write(Archive& ar)
 {

@@ -17,8 +17,6 @@ class Steelmat : public Serializable,
                  public ItCollectionImpl<BracedGirderData> {
 public:
     Steelmat();
-    Steelmat(const Steelmat& other);
-    Steelmat& operator=(const Steelmat&) = default;
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;

@@ -38,19 +38,7 @@ class WeldingPointData : public Serializable, public ItCollectionImpl<std::vecto
 public:
     // The head values get no value from the file's owner; a list that was
     // never read writes zeros and the letter '0'.
-    WeldingPointData() : ItCollectionImpl(&points) {}
-    WeldingPointData(const WeldingPointData& other)
-        : Serializable(other),
-          ItCollectionImpl(&points),
-          weldValueA(other.weldValueA),
-          weldValueB(other.weldValueB),
-          weldValueC(other.weldValueC),
-          weldLetter(other.weldLetter),
-          weldFlag(other.weldFlag),
-          points(other.points)
-    {
-    }
-    WeldingPointData& operator=(const WeldingPointData&) = default;
+    WeldingPointData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<WeldingPointData&>(self).points; }) {}
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
