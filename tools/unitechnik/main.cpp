@@ -3,8 +3,10 @@
 #include "command_line.h"
 
 namespace ItUnitechnik::Tool {
+std::unique_ptr<SubCommand> MakeBomCommand();
 std::unique_ptr<SubCommand> MakeBuildCommand();
 std::unique_ptr<SubCommand> MakeDumpCommand();
+std::unique_ptr<SubCommand> MakeRenderCommand();
 } // namespace ItUnitechnik::Tool
 
 int main(int argc, char** argv)
@@ -14,6 +16,8 @@ int main(int argc, char** argv)
         {
             MakeBuildCommand,
             MakeDumpCommand,
+            MakeRenderCommand,
+            MakeBomCommand,
         },
         argc, argv);
 }

@@ -1,0 +1,276 @@
+// The example slab as a person sees it: the tool renders the SVG and the HTML
+// page, Debian's Chromium shows each headless and takes a screenshot, and the
+// screenshot's pixels must show the element's fill inside the outline, white
+// inside the opening and beside the element, and the bars in their colours.
+// A machine without Chromium fails here; nothing is skipped.
+
+#include "example_documents.h"
+#include "png_image.h"
+#include "support/test_support.h"
+#include "svg_reading.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <functional>
+#include <sstream>
+
+namespace ItUnitechnik::Testing {
+namespace {
+
+// The colours of the drawing's stylesheet.
+const Colour kFill{0xd9, 0xd2, 0xc5};
+const Colour kWhite{0xff, 0xff, 0xff};
+const Colour kBar{0xc0, 0x39, 0x2b};
+const Colour kMatBar{0x2e, 0x8b, 0x57};
+
+std::string FindChromium()
+{
+    const char* path = std::getenv("PATH");
+    std::istringstream folders(path == nullptr ? "" : path);
+    std::string folder;
+    while (std::getline(folders, folder, ':')) {
+        const std::string candidate = folder + "/chromium";
+        if (!folder.empty() && access(candidate.c_str(), X_OK) == 0) {
+            return candidate;
+        }
+    }
+    return "";
+}
+
+std::string Quoted(const std::string& text)
+{
+    std::string quoted = "'";
+    for (const char c : text) {
+        quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    }
+    return quoted + "'";
+}
+
+std::size_t Occurrences(const std::string& text, const std::string& part)
+{
+    std::size_t count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
+        ++count;
+    }
+    return count;
+}
+
+int Shell(const std::string& command)
+{
+    const int status = std::system(command.c_str());
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+// Where the screenshots stay for a person to look at (the README's picture
+// is the first of them).
+std::string OutputFolder()
+{
+    const std::string folder = ITUNITECHNIK_RENDER_OUTPUT_DIR;
+    mkdir(folder.c_str(), 0755);
+    return folder;
+}
+
+// Headless Chromium, with a profile of its own and nothing fetched from the
+// network (no host name resolves), takes a screenshot of the page.
+PngImage Screenshot(const std::string& page, const std::string& png, int width, int height)
+{
+    const std::string chromium = FindChromium();
+    if (chromium.empty()) {
+        ADD_FAILURE() << "chromium is not on PATH: install Debian's chromium (.ci/run does)";
+        return {};
+    }
+    TemporaryDirectory profile;
+    std::remove(png.c_str());
+    const std::string command =
+        "timeout 120 " + Quoted(chromium) +
+        " --headless --no-sandbox --disable-gpu --no-first-run --disable-background-networking"
+        " --disable-component-update --disable-sync --disable-extensions --disable-default-apps"
+        " --hide-scrollbars --force-device-scale-factor=1 '--host-resolver-rules=MAP * ~NOTFOUND'"
+        " --user-data-dir=" +
+        Quoted(profile.Path()) + " --window-size=" + std::to_string(width) + "," + std::to_string(height) +
+        " --screenshot=" + Quoted(png) + " " + Quoted("file://" + page) + " >" + Quoted(png + ".log") + " 2>&1";
+    const int result = Shell(command);
+    EXPECT_EQ(result, 0) << command << "\nsee " << png << ".log";
+    PngImage image = PngImage::Read(png);
+    EXPECT_EQ(image.Width(), width) << image.error;
+    EXPECT_EQ(image.Height(), height) << image.error;
+    return image;
+}
+
+// The tool, as a user runs it.
+void Render(const std::string& slab, const std::string& output, const std::string& options)
+{
+    const std::string command = Quoted(UNITECHNIK_TOOL) + " render " + Quoted(slab) + " -o " + Quoted(output) +
+                                options;
+    ASSERT_EQ(Shell(command), 0) << command;
+}
+
+// Where a point of the slab (in mm, y up) lands on the screenshot.
+using Mapping = std::function<Point(Point)>;
+
+// The colour found within `reach` pixels across a thin line at `at`, the
+// nearest to `wanted`: a bar a few pixels wide covers at least one pixel.
+Colour Across(const PngImage& image, Point at, bool vertical, int reach, Colour wanted)
+{
+    Colour best = image.At(static_cast<int>(at.x), static_cast<int>(at.y));
+    int bestDistance = 1 << 30;
+    for (int step = -reach; step <= reach; ++step) {
+        const int x = static_cast<int>(at.x) + (vertical ? 0 : step);
+        const int y = static_cast<int>(at.y) + (vertical ? step : 0);
+        const Colour c = image.At(x, y);
+        const int distance = std::abs(c.r - wanted.r) + std::abs(c.g - wanted.g) + std::abs(c.b - wanted.b);
+        if (distance < bestDistance) {
+            bestDistance = distance;
+            best = c;
+        }
+    }
+    return best;
+}
+
+void CheckSlabPixels(const PngImage& image, const Mapping& to)
+{
+    const auto at = [&](double x, double y) {
+        const Point p = to({x, y});
+        return image.At(static_cast<int>(p.x), static_cast<int>(p.y));
+    };
+    // Inside the outline, away from every bar, girder and part.
+    for (const Point p : {Point{5000, 1700}, Point{400, 1200}, Point{3000, 700}}) {
+        EXPECT_TRUE(Near(at(p.x, p.y), kFill, 6)) << "(" << p.x << ", " << p.y << ") " << Describe(at(p.x, p.y));
+    }
+    // Inside the opening, (1000, 600) to (2200, 1500).
+    for (const Point p : {Point{1600, 1050}, Point{1100, 1400}, Point{2100, 700}}) {
+        EXPECT_TRUE(Near(at(p.x, p.y), kWhite, 6)) << "(" << p.x << ", " << p.y << ") " << Describe(at(p.x, p.y));
+    }
+    // Beside the element, in the margin.
+    EXPECT_TRUE(Near(at(-150, 1200), kWhite, 6)) << Describe(at(-150, 1200));
+    EXPECT_TRUE(Near(at(6150, 1200), kWhite, 6)) << Describe(at(6150, 1200));
+    // On the loose bar, y = 500 from x = 900 to 2300, and on the hook's long
+    // segment, y = 1250 from x = 2400 to 3600.
+    for (const Point p : {Point{1600, 500}, Point{1000, 500}, Point{3000, 1250}}) {
+        const Colour found = Across(image, to(p), true, 4, kBar);
+        EXPECT_TRUE(Near(found, kBar, 12)) << "(" << p.x << ", " << p.y << ") " << Describe(found);
+    }
+    // On the mat's bar along x at y = 150, 8 mm thick: the mat's colour.
+    const Colour matBar = Across(image, to({3000, 150}), true, 4, kMatBar);
+    EXPECT_TRUE(Near(matBar, kMatBar, 40)) << Describe(matBar);
+}
+
+// The box of the pixels in the element's fill, taken from the rows and
+// columns that hold many of them: the legend's small swatch does not count.
+struct PixelBox {
+    int left = 0, top = 0, right = -1, bottom = -1;
+};
+PixelBox FillBox(const PngImage& image)
+{
+    std::vector<int> rows(static_cast<std::size_t>(image.Height()), 0);
+    std::vector<int> columns(static_cast<std::size_t>(image.Width()), 0);
+    for (int y = 0; y < image.Height(); ++y) {
+        for (int x = 0; x < image.Width(); ++x) {
+            if (Near(image.At(x, y), kFill, 2)) {
+                ++rows[static_cast<std::size_t>(y)];
+                ++columns[static_cast<std::size_t>(x)];
+            }
+        }
+    }
+    PixelBox box;
+    box.left = image.Width();
+    box.top = image.Height();
+    for (int y = 0; y < image.Height(); ++y) {
+        if (rows[static_cast<std::size_t>(y)] > image.Width() / 4) {
+            box.top = std::min(box.top, y);
+            box.bottom = std::max(box.bottom, y);
+        }
+    }
+    for (int x = 0; x < image.Width(); ++x) {
+        if (columns[static_cast<std::size_t>(x)] > (box.bottom - box.top) / 4) {
+            box.left = std::min(box.left, x);
+            box.right = std::max(box.right, x);
+        }
+    }
+    return box;
+}
+
+class Browser : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        folder_ = OutputFolder();
+        slab_ = WriteExampleSlab(work_.Path());
+    }
+    TemporaryDirectory work_;
+    std::string folder_;
+    std::string slab_;
+};
+
+TEST_F(Browser, TheSvgShowsTheSlabWithItsOpeningAndBars)
+{
+    const std::string svg = folder_ + "/slab.svg";
+    Render(slab_, svg, "");
+    const int width = 2000;
+    const int height = 1300;
+    const PngImage image = Screenshot(svg, folder_ + "/slab.svg.png", width, height);
+    ASSERT_EQ(image.Width(), width);
+
+    // An SVG without a size fills the window; its viewBox is fitted in and
+    // centred. The viewBox is checked on its own in the SVG's tests: here
+    // it is read back from the file the browser showed.
+    std::string text = ReadFileBytes(svg);
+    const std::size_t found = text.find("viewBox=\"");
+    ASSERT_NE(found, std::string::npos);
+    const std::vector<double> box = NumbersOf(text.substr(found + 9, text.find('"', found + 9) - found - 9).c_str());
+    ASSERT_EQ(box.size(), 4u);
+    const double scale = std::min(width / box[2], height / box[3]);
+    const double left = (width - box[2] * scale) / 2;
+    const double top = (height - box[3] * scale) / 2;
+    const Mapping to = [&](Point p) { return Point{left + (p.x - box[0]) * scale, top + (-p.y - box[1]) * scale}; };
+
+    // The fill seen by the browser spans the outline where the viewBox puts
+    // it, within the outline's own stroke.
+    const PixelBox fill = FillBox(image);
+    EXPECT_NEAR(fill.left, to({0, 0}).x, 3);
+    EXPECT_NEAR(fill.right, to({6000, 0}).x, 3);
+    EXPECT_NEAR(fill.top, to({0, 2400}).y, 3);
+    EXPECT_NEAR(fill.bottom, to({0, 0}).y, 3);
+    CheckSlabPixels(image, to);
+}
+
+TEST_F(Browser, TheHtmlPageShowsTheSlabBesideItsRecords)
+{
+    const std::string html = folder_ + "/slab.html";
+    Render(slab_, html, " --html");
+    const std::string page = ReadFileBytes(html);
+    // Self-contained: nothing to fetch, nothing to run.
+    EXPECT_EQ(page.find("<script"), std::string::npos);
+    EXPECT_EQ(Occurrences(page, "http"), 1u) << "only the SVG's namespace";
+    EXPECT_EQ(page.find("src="), std::string::npos);
+    EXPECT_EQ(page.find("<link"), std::string::npos);
+    EXPECT_NE(page.find("<td>rodstock-2</td>"), std::string::npos);
+    EXPECT_NE(page.find("<td>Lifting anchor</td>"), std::string::npos);
+
+    const int width = 3000;
+    const int height = 1500;
+    const PngImage image = Screenshot(html, folder_ + "/slab.html.png", width, height);
+    ASSERT_EQ(image.Width(), width);
+    // Where the page's layout puts the drawing is the page's business: the
+    // element is found by its fill, which spans the outline (0, 0) to
+    // (6000, 2400).
+    const PixelBox fill = FillBox(image);
+    ASSERT_GT(fill.right - fill.left, 1000) << "the drawing is not wide enough to see";
+    // The drawing stands left of the table of records.
+    EXPECT_LT(fill.right, width * 2 / 3);
+    const double scaleX = (fill.right - fill.left + 1) / 6000.0;
+    const double scaleY = (fill.bottom - fill.top + 1) / 2400.0;
+    EXPECT_NEAR(scaleX, scaleY, 0.01) << "the drawing keeps its proportions";
+    const Mapping to = [&](Point p) {
+        return Point{fill.left + p.x * scaleX, fill.bottom + 1 - p.y * scaleY};
+    };
+    CheckSlabPixels(image, to);
+}
+
+} // namespace
+} // namespace ItUnitechnik::Testing

@@ -1,0 +1,336 @@
+#include "svg/geometry_paths.h"
+
+#include "geometry/arc.h"
+#include "geometry/line_segment.h"
+#include "geometry/polygon.h"
+#include "svg/markup_text.h"
+#include "svg/plant_conventions.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace ItUnitechnik::Drawing {
+
+namespace {
+
+constexpr double kPi = 3.14159265358979323846;
+
+// Cosine and sine of an angle in degrees; a quarter turn gives 0 and 1
+// exactly, so that a bar at 90 degrees ends on the grid.
+std::pair<double, double> CosSin(double degrees)
+{
+    double d = std::fmod(degrees, 360.0);
+    if (d < 0.0) {
+        d += 360.0;
+    }
+    if (d == 0.0) {
+        return {1.0, 0.0};
+    }
+    if (d == 90.0) {
+        return {0.0, 1.0};
+    }
+    if (d == 180.0) {
+        return {-1.0, 0.0};
+    }
+    if (d == 270.0) {
+        return {0.0, -1.0};
+    }
+    const double radians = d * kPi / 180.0;
+    return {std::cos(radians), std::sin(radians)};
+}
+
+PointD PointOf(const Point2d& point)
+{
+    return {static_cast<double>(point.x), static_cast<double>(point.y)};
+}
+
+// Path data, piece by piece, knowing where the pen stands.
+class PathBuilder {
+public:
+    const std::string& Data() const { return data_; }
+
+    bool At(PointD point) const { return open_ && SamePoint(at_, point); }
+
+    void MoveTo(PointD point)
+    {
+        Append("M " + Pair(point));
+        at_ = point;
+        start_ = point;
+        pieces_ = 0;
+        open_ = true;
+    }
+
+    void LineTo(PointD point)
+    {
+        Append("L " + Pair(point));
+        Moved(point);
+    }
+
+    // An arc of a circle of radius r to `point`; `counterClockwise` in the
+    // file's coordinates, where y points up.
+    void ArcTo(double radius, bool large, bool counterClockwise, PointD point)
+    {
+        // In the file's coordinates the positive sense of SVG's sweep flag is
+        // from x towards y: counter-clockwise on a drawing with y up.
+        Append("A " + Number(radius) + " " + Number(radius) + " 0 " + (large ? "1" : "0") + " " +
+               (counterClockwise ? "1" : "0") + " " + Pair(point));
+        Moved(point);
+    }
+
+private:
+    static std::string Pair(PointD point) { return Number(point.x) + " " + Number(point.y); }
+
+    void Append(const std::string& command)
+    {
+        if (!data_.empty()) {
+            data_ += ' ';
+        }
+        data_ += command;
+    }
+
+    void Moved(PointD point)
+    {
+        at_ = point;
+        ++pieces_;
+        if (SamePoint(at_, start_)) {
+            // Back at the first point: the run is closed, and the pen stands
+            // there for a piece that goes on from it.
+            Append("Z");
+            at_ = start_;
+            pieces_ = 0;
+        }
+    }
+
+    std::string data_;
+    PointD at_;
+    PointD start_;
+    int pieces_ = 0;
+    bool open_ = false;
+};
+
+void WholeCircle(PathBuilder& path, const Circle& circle, double fromDegrees)
+{
+    const PointD first = CirclePoint(circle, fromDegrees);
+    if (!path.At(first)) {
+        path.MoveTo(first);
+    }
+    const double radius = static_cast<double>(circle.radius);
+    path.ArcTo(radius, false, true, CirclePoint(circle, fromDegrees + 180.0));
+    path.ArcTo(radius, false, true, first);
+}
+
+void AddPiece(PathBuilder& path, const Curve* curve)
+{
+    if (const auto* arc = dynamic_cast<const Arc*>(curve)) {
+        if (arc->radius <= 0) {
+            return;
+        }
+        const double sweep = ArcSweep(kPlant.arcStart.Of(*arc), kPlant.arcEnd.Of(*arc));
+        const double start = static_cast<double>(kPlant.arcStart.Of(*arc));
+        if (sweep >= 360.0) {
+            WholeCircle(path, *arc, start);
+            return;
+        }
+        const PointD first = CirclePoint(*arc, start);
+        const PointD last = CirclePoint(*arc, start + sweep);
+        const double radius = static_cast<double>(arc->radius);
+        if (path.At(last) && !path.At(first)) {
+            path.ArcTo(radius, sweep > 180.0, false, first);
+            return;
+        }
+        if (!path.At(first)) {
+            path.MoveTo(first);
+        }
+        path.ArcTo(radius, sweep > 180.0, true, last);
+    } else if (const auto* circle = dynamic_cast<const Circle*>(curve)) {
+        if (circle->radius > 0) {
+            WholeCircle(path, *circle, 0.0);
+        }
+    } else if (const auto* line = dynamic_cast<const LineSegment*>(curve)) {
+        const PointD a = PointOf(line->start);
+        const PointD b = PointOf(line->end);
+        if (path.At(b) && !path.At(a)) {
+            path.LineTo(a);
+            return;
+        }
+        if (!path.At(a)) {
+            path.MoveTo(a);
+        }
+        path.LineTo(b);
+    } else if (const auto* polygon = dynamic_cast<const Polygon*>(curve)) {
+        if (polygon->points.empty()) {
+            return;
+        }
+        std::vector<PointD> points;
+        for (const Point2d& point : polygon->points) {
+            points.push_back(PointOf(point));
+        }
+        if (path.At(points.back()) && !path.At(points.front())) {
+            std::reverse(points.begin(), points.end());
+        }
+        if (!path.At(points.front())) {
+            path.MoveTo(points.front());
+        }
+        for (std::size_t i = 1; i < points.size(); ++i) {
+            path.LineTo(points[i]);
+        }
+    }
+}
+
+void WidenByCircle(BoxD& box, const Circle& circle)
+{
+    const double r = static_cast<double>(circle.radius);
+    box.Widen(PointD{circle.centre.x - r, circle.centre.y - r});
+    box.Widen(PointD{circle.centre.x + r, circle.centre.y + r});
+}
+
+} // namespace
+
+bool SamePoint(PointD a, PointD b)
+{
+    return std::fabs(a.x - b.x) < 0.5 && std::fabs(a.y - b.y) < 0.5;
+}
+
+void BoxD::Widen(PointD point)
+{
+    minX = std::min(minX, point.x);
+    minY = std::min(minY, point.y);
+    maxX = std::max(maxX, point.x);
+    maxY = std::max(maxY, point.y);
+}
+
+void BoxD::Widen(const BoxD& other)
+{
+    if (!other.Empty()) {
+        Widen(PointD{other.minX, other.minY});
+        Widen(PointD{other.maxX, other.maxY});
+    }
+}
+
+PointD Along(PointD from, double degrees, double length)
+{
+    const auto [c, s] = CosSin(degrees);
+    return {from.x + length * c, from.y + length * s};
+}
+
+PointD CirclePoint(const Circle& circle, double degrees)
+{
+    return Along(PointOf(circle.centre), degrees, static_cast<double>(circle.radius));
+}
+
+double ArcSweep(std::int32_t startAngle, std::int32_t endAngle)
+{
+    double sweep = std::fmod(static_cast<double>(endAngle) - static_cast<double>(startAngle), 360.0);
+    if (sweep <= 0.0) {
+        sweep += 360.0;
+    }
+    return sweep;
+}
+
+std::string OutlinePath(const std::vector<GeoData>& pieces)
+{
+    PathBuilder path;
+    for (const GeoData& piece : pieces) {
+        AddPiece(path, piece.curve);
+    }
+    return path.Data();
+}
+
+BoxD OutlineBox(const std::vector<GeoData>& pieces)
+{
+    BoxD box;
+    for (const GeoData& piece : pieces) {
+        if (const auto* arc = dynamic_cast<const Arc*>(piece.curve)) {
+            if (arc->radius <= 0) {
+                continue;
+            }
+            const double start = static_cast<double>(kPlant.arcStart.Of(*arc));
+            const double sweep = ArcSweep(kPlant.arcStart.Of(*arc), kPlant.arcEnd.Of(*arc));
+            box.Widen(CirclePoint(*arc, start));
+            box.Widen(CirclePoint(*arc, start + sweep));
+            // The quarter points that the arc passes.
+            for (int quarter = 0; quarter < 4; ++quarter) {
+                double past = std::fmod(90.0 * quarter - start, 360.0);
+                if (past < 0.0) {
+                    past += 360.0;
+                }
+                if (past <= sweep) {
+                    box.Widen(CirclePoint(*arc, 90.0 * quarter));
+                }
+            }
+        } else if (const auto* circle = dynamic_cast<const Circle*>(piece.curve)) {
+            if (circle->radius > 0) {
+                WidenByCircle(box, *circle);
+            }
+        } else if (const auto* line = dynamic_cast<const LineSegment*>(piece.curve)) {
+            box.Widen(PointOf(line->start));
+            box.Widen(PointOf(line->end));
+        } else if (const auto* polygon = dynamic_cast<const Polygon*>(piece.curve)) {
+            for (const Point2d& point : polygon->points) {
+                box.Widen(PointOf(point));
+            }
+        }
+    }
+    return box;
+}
+
+std::vector<PointD> BarPoints(const Rodstock& bar)
+{
+    std::vector<PointD> points{PointOf(bar.position)};
+    const double direction = static_cast<double>(kPlant.barRotation.Of(bar));
+    if (bar.bendingKind == L'2') {
+        for (const BendingFormPart& part : bar.freeForm.parts) {
+            for (const BendingFormSegment& segment : part.segments) {
+                points.push_back(Along(points.back(),
+                                       direction + static_cast<double>(kPlant.segmentAngle.Of(segment)),
+                                       static_cast<double>(kPlant.segmentLength.Of(segment))));
+            }
+        }
+        if (points.size() > 1) {
+            return points;
+        }
+    }
+    points.push_back(Along(points.back(), direction, static_cast<double>(kPlant.barLength.Of(bar))));
+    return points;
+}
+
+std::vector<PointD> GirderPoints(const BracedGirder& girder)
+{
+    const PointD start = PointOf(girder.position);
+    return {start, Along(start, static_cast<double>(kPlant.girderRotation.Of(girder)),
+                         static_cast<double>(kPlant.girderLength.Of(girder)))};
+}
+
+std::string PolylinePath(const std::vector<PointD>& points)
+{
+    std::string data;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        data += (i == 0 ? "M " : " L ") + Number(points[i].x) + " " + Number(points[i].y);
+    }
+    return data;
+}
+
+GirderPaths GirderDrawing(const BracedGirder& girder)
+{
+    const std::vector<PointD> axis = GirderPoints(girder);
+    const double length = static_cast<double>(kPlant.girderLength.Of(girder));
+    const double direction = static_cast<double>(kPlant.girderRotation.Of(girder));
+    const double half = kGirderDrawnWidth / 2.0;
+    const auto side = [&](PointD point, double offset) { return Along(point, direction + 90.0, offset); };
+
+    GirderPaths paths;
+    paths.chords = PolylinePath({side(axis[0], half), side(axis[1], half)}) + " " +
+                   PolylinePath({side(axis[0], -half), side(axis[1], -half)});
+    // The diagonals of the lattice, one every 100 mm or so.
+    const int steps = std::max(1, static_cast<int>(std::lround(std::fabs(length) / 100.0)));
+    std::vector<PointD> lattice;
+    for (int i = 0; i <= steps; ++i) {
+        const PointD onAxis = Along(axis[0], direction, length * i / steps);
+        lattice.push_back(side(onAxis, i % 2 == 0 ? half : -half));
+    }
+    paths.lattice = PolylinePath(lattice);
+    return paths;
+}
+
+} // namespace ItUnitechnik::Drawing

@@ -1,0 +1,313 @@
+#include "svg/scene.h"
+
+#include "svg/markup_text.h"
+#include "svg/plant_conventions.h"
+#include "tree/tree_text.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <set>
+
+namespace ItUnitechnik::Drawing {
+
+namespace {
+
+// Every record of an element that the drawing knows, with the prefix of its
+// id: the element's own, then those of each layer (and its lots).
+template <class Visitor>
+void Walk(const ElementPart& element, const std::string& prefix, Visitor& visitor)
+{
+    const auto outline = [&](const ContourData& contours, const CutoutData& cutouts, const std::string& at) {
+        for (const Contour& contour : contours.contours) {
+            visitor.Outline(at, contour);
+        }
+        for (const Cutout& cutout : cutouts.cutouts) {
+            visitor.Opening(at, cutout);
+        }
+    };
+    const auto block = [&](const Reinforcement& reinforcement, const std::string& at) {
+        for (const Steelmat& mat : reinforcement.mats) {
+            visitor.Mat(at, mat);
+        }
+        if (reinforcement.hasExternalIrons) {
+            for (const ExternalIron& iron : reinforcement.externalIrons.irons) {
+                visitor.Iron(at + "reinforcement-", iron);
+            }
+        }
+    };
+
+    outline(element.contourData, element.cutoutData, prefix);
+    for (std::size_t l = 0; l < element.layers.size(); ++l) {
+        const Layer& layer = element.layers[l];
+        const std::string at = prefix + "layer-" + std::to_string(l + 1) + "-";
+        for (const Lot& lot : layer.lots) {
+            outline(lot.contourData, lot.cutoutData, at + "lot-" + std::to_string(lot.lotNumber) + "-");
+        }
+    }
+    block(element.reinforcement, prefix);
+    for (std::size_t l = 0; l < element.layers.size(); ++l) {
+        block(element.layers[l].reinforcement, prefix + "layer-" + std::to_string(l + 1) + "-");
+    }
+    for (const BracedGirder& girder : element.bracedGirderData.girders) {
+        visitor.Girder(prefix, girder);
+    }
+    for (const Rodstock& bar : element.rodstockData.bars) {
+        visitor.Bar(prefix, bar);
+    }
+    for (const MountingPart& part : element.mountingPartData.parts) {
+        visitor.Part(prefix, part);
+    }
+    for (std::size_t l = 0; l < element.layers.size(); ++l) {
+        for (const MountingPart& part : element.layers[l].mountingPartData.parts) {
+            visitor.Part(prefix + "layer-" + std::to_string(l + 1) + "-", part);
+        }
+    }
+    for (const ExternalIron& iron : element.externalIronData.irons) {
+        visitor.Iron(prefix, iron);
+    }
+}
+
+BoxD RectBox(double x, double y, double width, double height)
+{
+    BoxD box;
+    box.Widen(PointD{x, y});
+    box.Widen(PointD{x + width, y + height});
+    return box;
+}
+
+BoxD MatBox(const Steelmat& mat)
+{
+    return RectBox(kPlant.matCornerX.Of(mat), kPlant.matCornerY.Of(mat), kPlant.matLength.Of(mat),
+                   kPlant.matWidth.Of(mat));
+}
+
+BoxD GirderBox(const BracedGirder& girder)
+{
+    BoxD box;
+    const double direction = static_cast<double>(kPlant.girderRotation.Of(girder));
+    for (const PointD& point : GirderPoints(girder)) {
+        box.Widen(Along(point, direction + 90.0, kGirderDrawnWidth / 2.0));
+        box.Widen(Along(point, direction - 90.0, kGirderDrawnWidth / 2.0));
+    }
+    return box;
+}
+
+BoxD BarBox(const Rodstock& bar)
+{
+    BoxD box;
+    for (const PointD& point : BarPoints(bar)) {
+        box.Widen(point);
+    }
+    return box;
+}
+
+// The box of everything drawn.
+class BoxVisitor {
+public:
+    BoxD box;
+
+    void Outline(const std::string&, const Contour& contour) { box.Widen(OutlineBox(contour.geoData)); }
+    void Opening(const std::string&, const Cutout& cutout) { box.Widen(OutlineBox(cutout.geoData)); }
+    void Part(const std::string&, const MountingPart& part) { box.Widen(OutlineBox(part.geoData)); }
+    void Bar(const std::string&, const Rodstock& bar) { box.Widen(BarBox(bar)); }
+    void Girder(const std::string&, const BracedGirder& girder) { box.Widen(GirderBox(girder)); }
+    void Mat(const std::string&, const Steelmat& mat)
+    {
+        box.Widen(MatBox(mat));
+        for (const Rodstock& bar : mat.rodstocks.bars) {
+            box.Widen(BarBox(bar));
+        }
+        for (const BracedGirder& girder : mat.girders.girders) {
+            box.Widen(GirderBox(girder));
+        }
+    }
+    void Iron(const std::string&, const ExternalIron&) {}
+};
+
+std::string Pieces(std::size_t count)
+{
+    return std::to_string(count) + (count == 1 ? " piece" : " pieces");
+}
+
+std::string Path(const char* shapeClass, const std::string& data, const std::string& extra = "")
+{
+    if (data.empty()) {
+        return "";
+    }
+    return "<path class=\"" + std::string(shapeClass) + "\" d=\"" + data + "\"" + extra + "/>";
+}
+
+std::string Rect(const char* shapeClass, const BoxD& box)
+{
+    return "<rect class=\"" + std::string(shapeClass) + "\" x=\"" + Number(box.minX) + "\" y=\"" +
+           Number(box.minY) + "\" width=\"" + Number(box.Width()) + "\" height=\"" + Number(box.Height()) + "\"/>";
+}
+
+// The items, in drawing order.
+class ItemVisitor {
+public:
+    explicit ItemVisitor(Scene& scene) : scene_(scene) {}
+
+    void Outline(const std::string& prefix, const Contour& contour)
+    {
+        Item item = Make(prefix, "contour", contour.contourNumber, FieldsOf(contour));
+        item.label = "Contour " + std::to_string(contour.contourNumber);
+        item.summary = Pieces(contour.geoData.size());
+        item.shapes = Path("outline", OutlinePath(contour.geoData));
+        scene_.items.push_back(std::move(item));
+    }
+
+    void Opening(const std::string& prefix, const Cutout& cutout)
+    {
+        Item item = Make(prefix, "cutout", cutout.cutoutNumber, FieldsOf(cutout));
+        item.label = "Cutout " + std::to_string(cutout.cutoutNumber);
+        item.summary = Named(Tree::Shown(cutout.cutoutName), Pieces(cutout.geoData.size()));
+        item.shapes = Path("opening", OutlinePath(cutout.geoData));
+        scene_.items.push_back(std::move(item));
+    }
+
+    void Part(const std::string& prefix, const MountingPart& part)
+    {
+        Item item = Make(prefix, "mountingpart", part.partNumber, FieldsOf(part));
+        const std::string name = Tree::Shown(part.partName);
+        item.label = "Mounted part " + std::to_string(part.partNumber);
+        item.summary = Named(name, std::to_string(part.partWidth) + " x " + std::to_string(part.partHeight));
+        const BoxD box = OutlineBox(part.geoData);
+        item.shapes = Path("part", OutlinePath(part.geoData));
+        if (!box.Empty()) {
+            item.shapes += Rect("part-box", box);
+            // The name stands upright above the part: the text's own turn
+            // undoes the drawing's flip.
+            item.shapes += "<text class=\"part-name\" x=\"" + Number((box.minX + box.maxX) / 2.0) + "\" y=\"" +
+                           Number(-(box.maxY + 0.4 * scene_.textSize)) + "\" font-size=\"" +
+                           Number(0.8 * scene_.textSize) + "\" transform=\"scale(1 -1)\">" + Escaped(name) +
+                           "</text>";
+        }
+        scene_.items.push_back(std::move(item));
+    }
+
+    void Bar(const std::string& prefix, const Rodstock& bar)
+    {
+        scene_.items.push_back(BarItem(prefix, bar, "bar", "Bar "));
+    }
+
+    void Girder(const std::string& prefix, const BracedGirder& girder)
+    {
+        scene_.items.push_back(GirderItem(prefix, girder, "Girder "));
+    }
+
+    void Mat(const std::string& prefix, const Steelmat& mat)
+    {
+        Item item = Make(prefix, "steelmat", mat.number, FieldsOf(mat));
+        const std::string matLabel = "Mat " + std::to_string(mat.number);
+        item.label = matLabel;
+        item.summary = Named(Tree::Shown(mat.name), std::to_string(kPlant.matLength.Of(mat)) + " x " +
+                                                        std::to_string(kPlant.matWidth.Of(mat)));
+        item.shapes = Rect("mat", MatBox(mat));
+        const std::string inner = item.id + "-";
+        for (const Rodstock& bar : mat.rodstocks.bars) {
+            item.parts.push_back(BarItem(inner, bar, "mat-bar", matLabel + ", bar "));
+        }
+        for (const BracedGirder& girder : mat.girders.girders) {
+            item.parts.push_back(GirderItem(inner, girder, matLabel + ", girder "));
+        }
+        scene_.items.push_back(std::move(item));
+    }
+
+    void Iron(const std::string& prefix, const ExternalIron& iron)
+    {
+        Item item = Make(prefix, "externaliron", iron.ironNumber, FieldsOf(iron));
+        item.label = "External iron " + std::to_string(iron.ironNumber);
+        item.summary = Named(Tree::Shown(iron.ironText), std::to_string(kPlant.ironCount.Of(iron)) + " pieces, code " +
+                                                             std::to_string(kPlant.ironCode.Of(iron)));
+        scene_.irons.push_back(std::move(item));
+    }
+
+private:
+    static std::string Named(const std::string& name, const std::string& rest)
+    {
+        return name.empty() ? rest : name + ", " + rest;
+    }
+
+    Item Make(const std::string& prefix, const char* kind, std::int32_t number, FieldList fields)
+    {
+        Item item;
+        item.kind = kind;
+        item.id = Unique(prefix + kind + "-" + std::to_string(number));
+        item.fields = std::move(fields);
+        return item;
+    }
+
+    // Two records of one list with the same number still get ids of their own.
+    std::string Unique(const std::string& id)
+    {
+        std::string candidate = id;
+        for (int n = 2; !taken_.insert(candidate).second; ++n) {
+            candidate = id + "-" + std::to_string(n);
+        }
+        return candidate;
+    }
+
+    Item BarItem(const std::string& prefix, const Rodstock& bar, const char* shapeClass, const std::string& label)
+    {
+        Item item = Make(prefix, "rodstock", bar.number, FieldsOf(bar));
+        item.label = label + std::to_string(bar.number);
+        const std::vector<PointD> points = BarPoints(bar);
+        const std::string shape =
+            bar.bendingKind == L'2' ? "bent in " + std::to_string(points.size() - 1) + " segments" : "straight";
+        item.summary = Named(Tree::Shown(bar.designation), "diameter " +
+                                                               std::to_string(kPlant.barDiameter.Of(bar)) + ", " +
+                                                               std::to_string(kPlant.barLength.Of(bar)) + " mm, " +
+                                                               shape);
+        // The diameter is the stroke's width, in the drawing's millimetres.
+        const double diameter = std::abs(static_cast<double>(kPlant.barDiameter.Of(bar)));
+        item.shapes = Path(shapeClass, PolylinePath(points), " stroke-width=\"" + Number(diameter) + "\"");
+        return item;
+    }
+
+    Item GirderItem(const std::string& prefix, const BracedGirder& girder, const std::string& label)
+    {
+        Item item = Make(prefix, "bracedgirder", girder.number, FieldsOf(girder));
+        item.label = label + std::to_string(girder.number);
+        item.summary = Named(Tree::Shown(girder.designation), "type " +
+                                                                  std::to_string(kPlant.girderType.Of(girder)) + ", " +
+                                                                  std::to_string(kPlant.girderLength.Of(girder)) +
+                                                                  " mm");
+        const GirderPaths paths = GirderDrawing(girder);
+        item.shapes = Path("girder-chord", paths.chords, " stroke-width=\"8\"") +
+                      Path("girder-lattice", paths.lattice, " stroke-width=\"5\"");
+        return item;
+    }
+
+    Scene& scene_;
+    std::set<std::string> taken_;
+};
+
+} // namespace
+
+Scene MakeScene(const ElementPlace& place, const std::string& idPrefix)
+{
+    Scene scene;
+    scene.place = place;
+    scene.idPrefix = idPrefix;
+    BoxVisitor boxes;
+    Walk(*place.element, idPrefix, boxes);
+    scene.box = boxes.box;
+    if (scene.box.Empty()) {
+        // Nothing to draw: a square metre of paper for the title block.
+        scene.box = RectBox(0.0, 0.0, 1000.0, 1000.0);
+    }
+    scene.margin = std::max(100.0, 0.05 * std::max(scene.box.Width(), scene.box.Height()));
+    scene.textSize = (scene.box.Width() + 2.0 * scene.margin) / 60.0;
+    ItemVisitor items(scene);
+    Walk(*place.element, idPrefix, items);
+    return scene;
+}
+
+std::string PlacePrefix(const ElementPlace& place)
+{
+    return "order-" + std::to_string(place.orderIndex) + "-element-" + std::to_string(place.elementIndex) + "-";
+}
+
+} // namespace ItUnitechnik::Drawing
