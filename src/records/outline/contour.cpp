@@ -20,9 +20,10 @@ Contour::Contour(const Contour& other)
 
 bool Contour::Write(Archive& ar)
 {
-    ar << UInt(2, contourNumber) << Blank;
-    ar << ZText(2, contourCode) << Blank;
-    ar << UInt(2, static_cast<std::uint32_t>(geoData.size()));
+    const RecordScope scope(ar, this);
+    ar << UInt(2, contourNumber, "contourNumber") << Blank;
+    ar << ZText(2, contourCode, "contourCode") << Blank;
+    ar << UInt(2, static_cast<std::uint32_t>(geoData.size()), "geoData");
     // Each element stands on a line of its own; an empty contour still ends
     // its own line, and the record ends the last one.
     for (GeoData& element : geoData) {
@@ -58,9 +59,10 @@ ContourData::ContourData(const ContourData& other)
 
 bool ContourData::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     ar << Tag("CONTOUR_");
-    ar << UInt(3, version) << EndLine;
-    ar << UInt(2, static_cast<std::uint32_t>(contours.size())) << EndLine;
+    ar << UInt(3, version, "version") << EndLine;
+    ar << UInt(2, static_cast<std::uint32_t>(contours.size()), "contours") << EndLine;
     WriteElements(ar, contours);
     ar << Tag("END");
     return Healthy(ar);
