@@ -4,6 +4,9 @@
 
 namespace ItUnitechnik::Tool {
 std::unique_ptr<SubCommand> MakeBuildCommand();
+std::unique_ptr<SubCommand> MakeCheckCommand();
+std::unique_ptr<SubCommand> MakeConvertCommand();
+std::unique_ptr<SubCommand> MakeDiffCommand();
 std::unique_ptr<SubCommand> MakeDumpCommand();
 } // namespace ItUnitechnik::Tool
 
@@ -13,6 +16,9 @@ int main(int argc, char** argv)
     return RunCommandLine(
         {
             MakeBuildCommand,
+            MakeCheckCommand,
+            MakeConvertCommand,
+            MakeDiffCommand,
             MakeDumpCommand,
         },
         argc, argv);
