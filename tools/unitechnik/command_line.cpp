@@ -18,10 +18,11 @@
 #ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN
 #endif
+#include <windows.h>
+// shellapi.h needs the types of windows.h before it.
 #include <fcntl.h>
 #include <io.h>
 #include <shellapi.h>
-#include <windows.h>
 #endif
 
 namespace ItUnitechnik::Tool {
@@ -63,10 +64,14 @@ int RunCommandLine(std::initializer_list<SubCommandMaker> subCommands, int argc,
 #ifdef _WIN32
     // What the tool prints is the same bytes as on Linux: no CR before LF.
     _setmode(_fileno(stdout), _O_BINARY);
+    _setmode(_fileno(stderr), _O_BINARY);
 #endif
     CLI::App app("unitechnik: makes and reads Unitechnik CAD/CAM files through the ItUnitechnik library",
                  "unitechnik");
     app.require_subcommand(1);
+    // The same command line on every platform: a path such as /tmp/a.json is
+    // no Windows-style option.
+    app.allow_windows_style_options(false);
     std::vector<std::pair<CLI::App*, std::unique_ptr<SubCommand>>> commands;
     for (SubCommandMaker make : subCommands) {
         std::unique_ptr<SubCommand> command = make();

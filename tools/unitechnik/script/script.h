@@ -18,7 +18,7 @@ namespace ItUnitechnik::Tool::Script {
 // The most zeros that padding may add in a whole script: lists shorter than
 // a count states are padded up to what the export reads, and a count that
 // would need more is refused rather than making gigabytes of zeros.
-inline constexpr std::int64_t kMostPadding = 100000;
+inline constexpr std::int64_t kMostPadding = 1000000;
 
 // A count given in the script that states more than its list holds: the
 // export reads zeros for the rest, as the padded list holds them.

@@ -1,0 +1,76 @@
+# Runs one call script through unitechnik built for this machine and through
+# unitechnik.exe (under the emulator), each in a directory of its own, once
+# with --trace and once printing its report, and compares what they did: the
+# exit codes, what they printed and every file they wrote, byte for byte.
+#   cmake -DNATIVE=... -DWINDOWS=... -DEMULATOR=... -DSCRIPT=... -DWORK_DIR=... -P tool_identity.cmake
+cmake_minimum_required(VERSION 3.25)
+foreach(var NATIVE WINDOWS EMULATOR SCRIPT WORK_DIR)
+    if(NOT DEFINED ${var} OR "${${var}}" STREQUAL "")
+        message(FATAL_ERROR "tool_identity: ${var} is not given")
+    endif()
+endforeach()
+if(NOT EXISTS "${NATIVE}")
+    message(FATAL_ERROR "tool_identity: the native tool ${NATIVE} was not built")
+endif()
+
+file(REMOVE_RECURSE "${WORK_DIR}")
+set(failures "")
+set(compared 0)
+foreach(run IN ITEMS trace report)
+    set(arguments build script.json)
+    if(run STREQUAL "trace")
+        list(APPEND arguments --trace trace.jsonl)
+    endif()
+    foreach(side IN ITEMS native windows)
+        set(dir "${WORK_DIR}/${run}/${side}")
+        file(MAKE_DIRECTORY "${dir}")
+        # The same relative path on both sides, so that messages naming the
+        # script are the same too.
+        file(COPY_FILE "${SCRIPT}" "${dir}/script.json")
+        if(side STREQUAL "native")
+            set(command "${NATIVE}")
+        else()
+            set(command ${EMULATOR} "${WINDOWS}")
+        endif()
+        execute_process(COMMAND ${command} ${arguments} WORKING_DIRECTORY "${dir}"
+                        RESULT_VARIABLE rc_${side} OUTPUT_FILE "${WORK_DIR}/${run}/${side}.out"
+                        ERROR_FILE "${WORK_DIR}/${run}/${side}.err")
+    endforeach()
+    if(NOT rc_native STREQUAL rc_windows)
+        string(APPEND failures "  ${run}: exit code ${rc_native} on this machine, ${rc_windows} on Windows\n")
+    endif()
+    foreach(stream IN ITEMS out err)
+        file(READ "${WORK_DIR}/${run}/native.${stream}" native_text HEX)
+        file(READ "${WORK_DIR}/${run}/windows.${stream}" windows_text HEX)
+        math(EXPR compared "${compared} + 1")
+        if(NOT native_text STREQUAL windows_text)
+            string(APPEND failures "  ${run}: the std${stream} differs\n")
+        endif()
+    endforeach()
+
+    file(GLOB_RECURSE native_files LIST_DIRECTORIES false RELATIVE "${WORK_DIR}/${run}/native"
+         "${WORK_DIR}/${run}/native/*")
+    file(GLOB_RECURSE windows_files LIST_DIRECTORIES false RELATIVE "${WORK_DIR}/${run}/windows"
+         "${WORK_DIR}/${run}/windows/*")
+    list(SORT native_files)
+    list(SORT windows_files)
+    if(NOT native_files STREQUAL windows_files)
+        string(APPEND failures "  ${run}: files on this machine: ${native_files}; on Windows: ${windows_files}\n")
+    endif()
+    foreach(name IN LISTS native_files)
+        if(NOT name IN_LIST windows_files)
+            continue()
+        endif()
+        math(EXPR compared "${compared} + 1")
+        file(READ "${WORK_DIR}/${run}/native/${name}" native_hex HEX)
+        file(READ "${WORK_DIR}/${run}/windows/${name}" windows_hex HEX)
+        if(NOT native_hex STREQUAL windows_hex)
+            string(APPEND failures "  ${run}: ${name} differs\n")
+        endif()
+    endforeach()
+endforeach()
+
+message(STATUS "exit code ${rc_native}; compared ${compared} outputs and files")
+if(failures)
+    message(FATAL_ERROR "unitechnik did not do the same on Linux and on Windows:\n${failures}")
+endif()
