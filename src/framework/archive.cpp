@@ -1,6 +1,7 @@
 #include "framework/archive.h"
 
 #include "framework/field_forms.h"
+#include "framework/field_trace.h"
 #include "framework/real_format.h"
 
 namespace ItUnitechnik {
@@ -17,6 +18,23 @@ Archive::~Archive()
     if (rdbuf() != nullptr) {
         flush();
     }
+}
+
+void Archive::SetFieldSink(FieldSink* sink)
+{
+    // Changing the buffer resets the stream's state; the state stays what it
+    // was.
+    const iostate state = rdstate();
+    if (trace_ != nullptr) {
+        flush();
+        rdbuf(trace_->Next());
+        trace_.reset();
+    }
+    if (sink != nullptr) {
+        trace_ = std::make_unique<FieldTrace>(rdbuf(), *sink);
+        rdbuf(trace_.get());
+    }
+    clear(state);
 }
 
 bool Healthy(const Archive& ar)

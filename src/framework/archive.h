@@ -1,9 +1,13 @@
 #pragma once
 
 #include <istream>
+#include <memory>
 #include <streambuf>
 
 namespace ItUnitechnik {
+
+class FieldSink;
+class FieldTrace;
 
 // The one stream every record reads and writes through. It does not own its
 // buffer. The stream always works in the classic number formats, whatever the
@@ -18,6 +22,17 @@ public:
 
     bool spareFlag = false; // set here and never tested by anything
     bool valid = true;      // cleared by a Read that finds a wrong tag
+
+    // The sink the field forms report to (framework/field_sink.h); null, the
+    // default, for none. Set it before the first field: from then on the
+    // Archive writes through a FieldTrace that hands every character on to
+    // the caller's buffer unchanged and counts lines and columns on the way.
+    void SetFieldSink(FieldSink* sink);
+    // The trace of a sink that is set, else null.
+    FieldTrace* Trace() const { return trace_.get(); }
+
+private:
+    std::unique_ptr<FieldTrace> trace_;
 };
 
 // The test that ends every Read and Write: bad first, then fail, then valid.

@@ -328,24 +328,34 @@ std::wstring_view FirstCharacters(const std::wstring& value, int width)
 
 } // namespace
 
-TextForm Text(int width, const std::wstring& value)
+TextForm Text(int width, const std::wstring& value, const char* member)
 {
-    return {width, FirstCharacters(value, width), L' ', Adjust::left};
+    return {width, FirstCharacters(value, width), L' ', Adjust::left, &value, member};
 }
 
-TextForm RText(int width, const std::wstring& value, Adjust adjust)
+TextForm RText(int width, const std::wstring& value, Adjust adjust, const char* member)
 {
-    return {width, FirstCharacters(value, width), L' ', adjust};
+    return {width, FirstCharacters(value, width), L' ', adjust, &value, member};
 }
 
-TextForm ZText(int width, const std::wstring& value, Adjust adjust)
+TextForm RText(int width, const std::wstring& value, const char* member)
 {
-    return {width, FirstCharacters(value, width), L'0', adjust};
+    return RText(width, value, Adjust::keep, member);
 }
 
-TextForm ZTextWhole(int width, const std::wstring& value)
+TextForm ZText(int width, const std::wstring& value, Adjust adjust, const char* member)
 {
-    return {width, value, L'0', Adjust::right};
+    return {width, FirstCharacters(value, width), L'0', adjust, &value, member};
+}
+
+TextForm ZText(int width, const std::wstring& value, const char* member)
+{
+    return ZText(width, value, Adjust::keep, member);
+}
+
+TextForm ZTextWhole(int width, const std::wstring& value, const char* member)
+{
+    return {width, value, L'0', Adjust::right, &value, member};
 }
 
 std::wostream& operator<<(std::wostream& os, const TextForm& form)
@@ -363,9 +373,9 @@ std::wostream& operator<<(std::wostream& os, const TextForm& form)
     return os;
 }
 
-RealForm Real(int places, int decimals, double value)
+RealForm Real(int places, int decimals, double value, const char* member)
 {
-    return {places, decimals, value};
+    return {places, decimals, value, member};
 }
 
 std::wostream& operator<<(std::wostream& os, const RealForm& form)
@@ -401,9 +411,9 @@ std::wostream& operator<<(std::wostream& os, const RealForm& form)
     return os << form.value;
 }
 
-CharForm Char(wchar_t value)
+CharForm Char(wchar_t value, const char* member)
 {
-    return {value};
+    return {value, member};
 }
 
 std::wostream& operator<<(std::wostream& os, const CharForm& form)

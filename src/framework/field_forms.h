@@ -27,24 +27,32 @@ namespace ItUnitechnik {
 // in force, or set it.
 enum class Adjust { keep, left, right };
 
+// Every form that carries a value may name the member it writes, as the
+// record names it ("designation", "position.x"); an Archive with a field sink
+// tells that name with what the field did (framework/field_trace.h).
+
 // Holds a view of the value: use a form in the expression that makes it.
 struct TextForm {
     int width;
     std::wstring_view value; // already cut to the width where the form cuts
     wchar_t fill;
     Adjust adjust;
+    const std::wstring* whole = nullptr; // the value as the record holds it
+    const char* member = nullptr;
 };
 
 // The value's first w characters, left-aligned, blank-filled.
-TextForm Text(int width, const std::wstring& value);
+TextForm Text(int width, const std::wstring& value, const char* member = nullptr);
 // The value's first w characters, blank-filled; pads in front unless a `left`
 // is in force. Most such fields rely on the adjustment the field before left.
-TextForm RText(int width, const std::wstring& value, Adjust adjust = Adjust::keep);
+TextForm RText(int width, const std::wstring& value, Adjust adjust = Adjust::keep, const char* member = nullptr);
+TextForm RText(int width, const std::wstring& value, const char* member);
 // As RText, filled with '0'.
-TextForm ZText(int width, const std::wstring& value, Adjust adjust = Adjust::keep);
+TextForm ZText(int width, const std::wstring& value, Adjust adjust = Adjust::keep, const char* member = nullptr);
+TextForm ZText(int width, const std::wstring& value, const char* member);
 // The whole value, zero-filled to at least w places, right-aligned: the one
 // text of the format that is not cut.
-TextForm ZTextWhole(int width, const std::wstring& value);
+TextForm ZTextWhole(int width, const std::wstring& value, const char* member = nullptr);
 
 std::wostream& operator<<(std::wostream& os, const TextForm& form);
 
@@ -54,33 +62,34 @@ struct IntegerForm {
     Kind kind;
     int width;
     T value;
+    const char* member = nullptr;
 };
 
 // Width w, fill '0', no plus sign, right-aligned: 42 in UInt(5) is 00042,
 // -42 is 00-42.
 template <class T>
-IntegerForm<T> UInt(int width, T value)
+IntegerForm<T> UInt(int width, T value, const char* member = nullptr)
 {
     static_assert(std::is_integral<T>::value, "UInt takes an integer");
-    return {IntegerForm<T>::Kind::unsignedField, width, value};
+    return {IntegerForm<T>::Kind::unsignedField, width, value, member};
 }
 
 // Width w+1, fill '0', internal, plus sign: 42 in SInt(5) is +00042.
 template <class T>
-IntegerForm<T> SInt(int width, T value)
+IntegerForm<T> SInt(int width, T value, const char* member = nullptr)
 {
     static_assert(std::is_integral<T>::value, "SInt takes an integer");
-    return {IntegerForm<T>::Kind::signedField, width, value};
+    return {IntegerForm<T>::Kind::signedField, width, value, member};
 }
 
 // Upper-case hexadecimal, width w, fill '0', no plus sign, right-aligned;
 // the stream goes back to decimal and lower case behind the value. A negative
 // value prints its full bit pattern.
 template <class T>
-IntegerForm<T> Hex(int width, T value)
+IntegerForm<T> Hex(int width, T value, const char* member = nullptr)
 {
     static_assert(std::is_integral<T>::value, "Hex takes an integer");
-    return {IntegerForm<T>::Kind::hexField, width, value};
+    return {IntegerForm<T>::Kind::hexField, width, value, member};
 }
 
 namespace Fields {
@@ -164,18 +173,20 @@ struct RealForm {
     int places;   // before the point
     int decimals; // behind the point
     double value;
+    const char* member = nullptr;
 };
 
 // fixed, width i+d+1, fill '0', precision d, right-aligned; no point when d
 // is 0. The plus sign is left as it stands.
-RealForm Real(int places, int decimals, double value);
+RealForm Real(int places, int decimals, double value, const char* member = nullptr);
 std::wostream& operator<<(std::wostream& os, const RealForm& form);
 
 // One wide character with width 1, so no fill arises.
 struct CharForm {
     wchar_t value;
+    const char* member = nullptr;
 };
-CharForm Char(wchar_t value);
+CharForm Char(wchar_t value, const char* member = nullptr);
 std::wostream& operator<<(std::wostream& os, const CharForm& form);
 
 // A narrow literal through the narrow-string inserter, each character widened.
@@ -220,3 +231,7 @@ void WriteElements(Stream& ar, std::vector<T>& elements)
 }
 
 } // namespace ItUnitechnik
+
+// On an Archive every form goes through the Archive's own inserter, which
+// tells a field sink what the field did.
+#include "framework/field_trace.h"

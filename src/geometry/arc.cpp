@@ -11,12 +11,13 @@ Arc::~Arc() = default;
 
 bool Arc::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     writeCoordinates(ar, centre);
     ar << Blank;
-    ar << UInt(5, radius) << Blank;
-    ar << UInt(3, startAngle) << Blank;
-    ar << UInt(3, endAngle) << Blank;
-    ar << UInt(3, flags);
+    ar << UInt(5, radius, "radius") << Blank;
+    ar << UInt(3, startAngle, "startAngle") << Blank;
+    ar << UInt(3, endAngle, "endAngle") << Blank;
+    ar << UInt(3, flags, "flags");
     return Healthy(ar);
 }
 

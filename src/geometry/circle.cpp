@@ -17,10 +17,11 @@ Circle::~Circle() = default;
 
 bool Circle::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     writeCoordinates(ar, centre);
     ar << Blank;
-    ar << UInt(5, radius) << Blank;
-    ar << Hex(4, flags);
+    ar << UInt(5, radius, "radius") << Blank;
+    ar << Hex(4, flags, "flags");
     return Healthy(ar);
 }
 

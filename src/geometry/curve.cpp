@@ -20,11 +20,12 @@ bool Curve::copyVersion(const Curve* other)
 
 void Curve::writeCoordinates(Archive& ar, const Point2d& point) const
 {
+    const RecordScope scope(ar, &point);
     if (version < 600) {
         Point2d oldForm = point; // Write of a point is not const
         oldForm.Write(ar);
     } else {
-        ar << SInt(5, point.x) << Blank << SInt(5, point.y);
+        ar << SInt(5, point.x, "x") << Blank << SInt(5, point.y, "y");
     }
 }
 

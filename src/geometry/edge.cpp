@@ -14,6 +14,7 @@ bool Edge::Read(Archive& ar)
 
 bool Edge::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     first.Write(ar);
     ar << Blank;
     second.Write(ar);

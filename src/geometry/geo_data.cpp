@@ -99,7 +99,8 @@ bool GeoData::Read(Archive& ar)
 
 bool GeoData::Write(Archive& ar)
 {
-    ar << Char(elementKind) << Blank;
+    const RecordScope scope(ar, this);
+    ar << Char(elementKind, "elementKind") << Blank;
     if (curve == nullptr) {
         ar.valid = false;
         return false;

@@ -21,11 +21,12 @@ LineSegment::~LineSegment() = default;
 
 bool LineSegment::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     writeCoordinates(ar, start);
     ar << Blank;
     writeCoordinates(ar, end);
     ar << Blank;
-    ar << Hex(4, flags);
+    ar << Hex(4, flags, "flags");
     return Healthy(ar);
 }
 

@@ -34,7 +34,8 @@ bool Point2d::Read(Archive& ar)
 
 bool Point2d::Write(Archive& ar)
 {
-    ar << UInt(5, ClampedToZero(x)) << Blank << UInt(5, ClampedToZero(y));
+    const RecordScope scope(ar, this);
+    ar << UInt(5, ClampedToZero(x), "x") << Blank << UInt(5, ClampedToZero(y), "y");
     return Healthy(ar);
 }
 
@@ -74,7 +75,8 @@ bool Vector2d::Read(Archive& ar)
 
 bool Vector2d::Write(Archive& ar)
 {
-    ar << UInt(6, x) << Blank << UInt(6, y);
+    const RecordScope scope(ar, this);
+    ar << UInt(6, x, "x") << Blank << UInt(6, y, "y");
     return Healthy(ar);
 }
 
@@ -97,7 +99,8 @@ bool Point3d::Read(Archive& ar)
 
 bool Point3d::Write(Archive& ar)
 {
-    ar << UInt(6, x) << Blank << UInt(6, y) << Blank << UInt(6, z);
+    const RecordScope scope(ar, this);
+    ar << UInt(6, x, "x") << Blank << UInt(6, y, "y") << Blank << UInt(6, z, "z");
     return Healthy(ar);
 }
 
@@ -116,8 +119,9 @@ bool Vector3d::Read(Archive& ar)
 
 bool Vector3d::Write(Archive& ar)
 {
-    ar << UInt(6, TruncateToInt32(x)) << Blank << UInt(6, TruncateToInt32(y)) << Blank
-       << UInt(6, TruncateToInt32(z));
+    const RecordScope scope(ar, this);
+    ar << UInt(6, TruncateToInt32(x), "x") << Blank << UInt(6, TruncateToInt32(y), "y") << Blank
+       << UInt(6, TruncateToInt32(z), "z");
     return Healthy(ar);
 }
 

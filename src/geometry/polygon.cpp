@@ -15,7 +15,8 @@ Polygon::~Polygon() = default;
 
 bool Polygon::Write(Archive& ar)
 {
-    ar << UInt(1, static_cast<std::uint32_t>(points.size())) << Blank;
+    const RecordScope scope(ar, this);
+    ar << UInt(1, static_cast<std::uint32_t>(points.size()), "points") << Blank;
     for (std::size_t i = 0; i < points.size(); ++i) {
         if (i > 1) {
             ar << Blank;
@@ -26,7 +27,7 @@ bool Polygon::Write(Archive& ar)
             // A chain edited out of step with its flags writes 0 for a
             // missing entry rather than read past the end.
             const std::int32_t entry = i - 1 < segmentFlags.size() ? segmentFlags[i - 1] : 0;
-            ar << Hex(4, entry);
+            ar << Hex(4, entry, "entry");
         }
     }
     return Healthy(ar);

@@ -5,6 +5,9 @@
 namespace ItUnitechnik::Tool {
 std::unique_ptr<SubCommand> MakeBomCommand();
 std::unique_ptr<SubCommand> MakeBuildCommand();
+std::unique_ptr<SubCommand> MakeCheckCommand();
+std::unique_ptr<SubCommand> MakeConvertCommand();
+std::unique_ptr<SubCommand> MakeDiffCommand();
 std::unique_ptr<SubCommand> MakeDumpCommand();
 std::unique_ptr<SubCommand> MakeRenderCommand();
 } // namespace ItUnitechnik::Tool
@@ -15,6 +18,9 @@ int main(int argc, char** argv)
     return RunCommandLine(
         {
             MakeBuildCommand,
+            MakeCheckCommand,
+            MakeConvertCommand,
+            MakeDiffCommand,
             MakeDumpCommand,
             MakeRenderCommand,
             MakeBomCommand,

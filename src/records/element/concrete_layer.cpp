@@ -8,20 +8,21 @@ namespace ItUnitechnik {
 
 bool ConcreteLayer::Write(Archive& ar)
 {
-    ar << UInt(2, layerNumber) << Blank;
-    ar << UInt(2, layerKind) << Blank;
-    ar << UInt(3, layerThickness) << Blank;
+    const RecordScope scope(ar, this);
+    ar << UInt(2, layerNumber, "layerNumber") << Blank;
+    ar << UInt(2, layerKind, "layerKind") << Blank;
+    ar << UInt(3, layerThickness, "layerThickness") << Blank;
     if (version < 600) {
-        ar << Text(8, layerName);
+        ar << Text(8, layerName, "layerName");
     } else {
-        ar << Text(20, layerName);
+        ar << Text(20, layerName, "layerName");
     }
     ar << Blank;
-    ar << Real(1, 3, firstFactor) << Blank;
-    ar << Real(5, 1, secondFactor);
+    ar << Real(1, 3, firstFactor, "firstFactor") << Blank;
+    ar << Real(5, 1, secondFactor, "secondFactor");
     if (version >= 600) {
         ar << Blank;
-        ar << Text(20, layerText20);
+        ar << Text(20, layerText20, "layerText20");
     }
     return Healthy(ar);
 }

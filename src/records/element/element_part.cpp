@@ -109,78 +109,79 @@ bool ElementPart::HasLongLines() const
 
 bool ElementPart::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     ar << Tag("SLABDATE");
 
-    ar << UInt(3, version) << EndLine;
+    ar << UInt(3, version, "version") << EndLine;
 
     // Line A. From 600 the number is a left-aligned text, and the left
     // adjustment it leaves puts the zeros of the next two codes behind them.
     if (version < 600) {
-        ar << UInt(3, elementNumber);
+        ar << UInt(3, elementNumber, "elementNumber");
     } else {
-        ar << Text(15, elementNumberText);
+        ar << Text(15, elementNumberText, "elementNumberText");
     }
     ar << Blank;
-    ar << ZText(1, codeA1);
+    ar << ZText(1, codeA1, "codeA1");
     ar << Blank;
-    ar << ZText(2, codeA2);
+    ar << ZText(2, codeA2, "codeA2");
     ar << Blank;
-    ar << UInt(2, valueA1);
+    ar << UInt(2, valueA1, "valueA1");
     ar << Blank;
-    ar << UInt(2, valueA2);
+    ar << UInt(2, valueA2, "valueA2");
     ar << Blank;
-    ar << ZText(3, codeA3);
+    ar << ZText(3, codeA3, "codeA3");
     ar << Blank;
     if (version < 600) {
-        ar << UInt(3, valueA3);
+        ar << UInt(3, valueA3, "valueA3");
     } else {
-        ar << UInt(5, valueA3);
+        ar << UInt(5, valueA3, "valueA3");
     }
     ar << Blank;
-    ar << UInt(3, valueA4);
+    ar << UInt(3, valueA4, "valueA4");
     ar << Blank;
-    ar << UInt(3, valueA5);
+    ar << UInt(3, valueA5, "valueA5");
     if (HasLongLines()) {
         ar << Blank;
-        ar << UInt(2, valueA6);
+        ar << UInt(2, valueA6, "valueA6");
         ar << Blank;
-        ar << UInt(2, valueA7);
+        ar << UInt(2, valueA7, "valueA7");
         ar << Blank;
         if (version < 600) {
-            ar << ZText(4, codeA4);
+            ar << ZText(4, codeA4, "codeA4");
         } else {
-            ar << RText(40, textA40);
+            ar << RText(40, textA40, "textA40");
         }
     }
     ar << EndLine;
 
     // Line B.
-    ar << Real(2, 3, elementMeasure);
+    ar << Real(2, 3, elementMeasure, "elementMeasure");
     ar << Blank;
-    ar << ZText(3, codeB1);
+    ar << ZText(3, codeB1, "codeB1");
     ar << Blank;
-    ar << ZText(2, codeB2);
+    ar << ZText(2, codeB2, "codeB2");
     ar << Blank;
-    ar << RText(8, textB8);
+    ar << RText(8, textB8, "textB8");
     ar << Blank;
-    ar << Real(1, 3, realB1);
+    ar << Real(1, 3, realB1, "realB1");
     ar << Blank;
-    ar << Real(5, 1, layerProductSum);
+    ar << Real(5, 1, layerProductSum, "layerProductSum");
     ar << Blank;
-    ar << UInt(4, thickness);
+    ar << UInt(4, thickness, "thickness");
     ar << Blank;
-    ar << UInt(3, doubleWallGap);
+    ar << UInt(3, doubleWallGap, "doubleWallGap");
     ar << Blank;
-    ar << ZText(3, codeB3);
+    ar << ZText(3, codeB3, "codeB3");
     ar << Blank;
-    ar << ZText(3, codeB4);
+    ar << ZText(3, codeB4, "codeB4");
     ar << Blank;
-    ar << UInt(3, valueB1);
+    ar << UInt(3, valueB1, "valueB1");
     ar << Blank;
-    ar << UInt(3, valueB2);
+    ar << UInt(3, valueB2, "valueB2");
     if (HasLongLines()) {
         ar << Blank;
-        ar << UInt(4, secondThickness);
+        ar << UInt(4, secondThickness, "secondThickness");
     }
     ar << EndLine;
 
@@ -192,28 +193,28 @@ bool ElementPart::Write(Archive& ar)
     }
 
     if (version >= 502) {
-        ar << UInt(2, static_cast<std::uint32_t>(concreteLayers.size())) << EndLine;
+        ar << UInt(2, static_cast<std::uint32_t>(concreteLayers.size()), "concreteLayers") << EndLine;
         WriteElements(ar, concreteLayers);
     }
 
     // Line C.
-    ar << UInt(5, extentX);
-    ar << Blank << UInt(5, extentY);
-    ar << Blank << SInt(4, valueC1);
-    ar << Blank << SInt(4, valueC2);
-    ar << Blank << SInt(4, valueC3);
-    ar << Blank << SInt(4, valueC4);
-    ar << Blank << UInt(1, valueC5);
-    ar << Blank << UInt(5, valueC6);
-    ar << Blank << UInt(1, valueC7);
-    ar << Blank << UInt(5, valueC8);
+    ar << UInt(5, extentX, "extentX");
+    ar << Blank << UInt(5, extentY, "extentY");
+    ar << Blank << SInt(4, valueC1, "valueC1");
+    ar << Blank << SInt(4, valueC2, "valueC2");
+    ar << Blank << SInt(4, valueC3, "valueC3");
+    ar << Blank << SInt(4, valueC4, "valueC4");
+    ar << Blank << UInt(1, valueC5, "valueC5");
+    ar << Blank << UInt(5, valueC6, "valueC6");
+    ar << Blank << UInt(1, valueC7, "valueC7");
+    ar << Blank << UInt(5, valueC8, "valueC8");
     ar << Blank;
     elementVector.Write(ar);
-    ar << Blank << SInt(2, valueC9);
-    ar << Blank << SInt(2, valueC10);
+    ar << Blank << SInt(2, valueC9, "valueC9");
+    ar << Blank << SInt(2, valueC10, "valueC10");
     if (version < 600 && valueC11 != -1 && valueC12 != -1) {
-        ar << Blank << UInt(3, valueC11);
-        ar << Blank << UInt(3, valueC12);
+        ar << Blank << UInt(3, valueC11, "valueC11");
+        ar << Blank << UInt(3, valueC12, "valueC12");
     }
     ar << EndLine;
 
@@ -225,17 +226,17 @@ bool ElementPart::Write(Archive& ar)
     }
 
     // Line D.
-    ar << RText(8, textD8);
+    ar << RText(8, textD8, "textD8");
     ar << Blank;
-    ar << RText(4, textD4);
+    ar << RText(4, textD4, "textD4");
     ar << Blank;
-    ar << UInt(4, valueD1);
+    ar << UInt(4, valueD1, "valueD1");
     ar << Blank;
-    ar << UInt(4, valueD2);
+    ar << UInt(4, valueD2, "valueD2");
     ar << Blank;
-    ar << UInt(2, valueD3);
+    ar << UInt(2, valueD3, "valueD3");
     ar << Blank;
-    ar << RText(30, elementText30) << EndLine;
+    ar << RText(30, elementText30, "elementText30") << EndLine;
 
     // Line E.
     if (version < 600) {
@@ -245,29 +246,29 @@ bool ElementPart::Write(Archive& ar)
         ar << Blank;
         thirdPoint.Write(ar);
     } else {
-        ar << SInt(6, firstPoint.x) << Blank << SInt(6, firstPoint.y) << Blank << SInt(6, firstPoint.z);
+        ar << SInt(6, firstPoint.x, "firstPoint.x") << Blank << SInt(6, firstPoint.y, "firstPoint.y") << Blank << SInt(6, firstPoint.z, "firstPoint.z");
         ar << Blank;
-        ar << SInt(6, secondPoint.x) << Blank << SInt(6, secondPoint.y) << Blank << SInt(6, secondPoint.z);
+        ar << SInt(6, secondPoint.x, "secondPoint.x") << Blank << SInt(6, secondPoint.y, "secondPoint.y") << Blank << SInt(6, secondPoint.z, "secondPoint.z");
         ar << Blank;
-        ar << SInt(6, thirdPoint.x) << Blank << SInt(6, thirdPoint.y) << Blank << SInt(6, thirdPoint.z);
+        ar << SInt(6, thirdPoint.x, "thirdPoint.x") << Blank << SInt(6, thirdPoint.y, "thirdPoint.y") << Blank << SInt(6, thirdPoint.z, "thirdPoint.z");
     }
     ar << EndLine;
 
     if (version >= 600) {
         // Line F.
-        ar << SInt(5, fourthPoint.x);
+        ar << SInt(5, fourthPoint.x, "fourthPoint.x");
         ar << Blank;
-        ar << SInt(5, fourthPoint.y);
+        ar << SInt(5, fourthPoint.y, "fourthPoint.y");
         ar << Blank;
-        ar << SInt(5, fourthPoint.z);
+        ar << SInt(5, fourthPoint.z, "fourthPoint.z");
         ar << Blank;
-        ar << UInt(3, valueF1) << EndLine;
+        ar << UInt(3, valueF1, "valueF1") << EndLine;
 
         // Lines G.
-        ar << RText(20, slabInfo1) << EndLine;
-        ar << RText(20, slabInfo2) << EndLine;
-        ar << RText(20, slabInfo3) << EndLine;
-        ar << RText(20, slabInfo4) << EndLine;
+        ar << RText(20, slabInfo1, "slabInfo1") << EndLine;
+        ar << RText(20, slabInfo2, "slabInfo2") << EndLine;
+        ar << RText(20, slabInfo3, "slabInfo3") << EndLine;
+        ar << RText(20, slabInfo4, "slabInfo4") << EndLine;
     }
 
     ar << Tag("END");

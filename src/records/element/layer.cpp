@@ -14,18 +14,19 @@ Layer::Layer()
 
 bool Layer::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     ar << Tag("LAYER___");
-    ar << UInt(3, version) << EndLine;
+    ar << UInt(3, version, "version") << EndLine;
 
-    ar << UInt(1, layerValue1);
+    ar << UInt(1, layerValue1, "layerValue1");
     ar << Blank;
-    ar << UInt(6, layerValue2);
+    ar << UInt(6, layerValue2, "layerValue2");
     ar << Blank;
-    ar << UInt(6, layerValue3);
+    ar << UInt(6, layerValue3, "layerValue3");
     ar << Blank;
-    ar << UInt(6, layerValue4);
+    ar << UInt(6, layerValue4, "layerValue4");
     ar << Blank;
-    ar << UInt(2, lotCount) << EndLine;
+    ar << UInt(2, lotCount, "lotCount") << EndLine;
 
     ar << Tag("END");
     for (Lot& lot : lots) {

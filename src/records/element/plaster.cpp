@@ -8,10 +8,11 @@ namespace ItUnitechnik {
 
 bool Plaster::Write(Archive& ar)
 {
-    ar << UInt(3, plasterNumber) << Blank;
-    ar << Text(8, plasterName) << Blank;
-    ar << Real(1, 3, firstValue) << Blank;
-    ar << Real(5, 1, secondValue);
+    const RecordScope scope(ar, this);
+    ar << UInt(3, plasterNumber, "plasterNumber") << Blank;
+    ar << Text(8, plasterName, "plasterName") << Blank;
+    ar << Real(1, 3, firstValue, "firstValue") << Blank;
+    ar << Real(5, 1, secondValue, "secondValue");
     return Healthy(ar);
 }
 

@@ -13,10 +13,11 @@ bool Address::Read(Archive& ar)
 
 bool Address::Write(Archive& ar)
 {
-    ar << Text(25, addressText1) << EndLine;
-    ar << Text(25, addressText2) << EndLine;
-    ar << Text(8, addressText3) << EndLine;
-    ar << Text(25, addressText4) << EndLine;
+    const RecordScope scope(ar, this);
+    ar << Text(25, addressText1, "addressText1") << EndLine;
+    ar << Text(25, addressText2, "addressText2") << EndLine;
+    ar << Text(8, addressText3, "addressText3") << EndLine;
+    ar << Text(25, addressText4, "addressText4") << EndLine;
     return Healthy(ar);
 }
 

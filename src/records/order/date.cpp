@@ -80,14 +80,15 @@ bool Date::Read(Archive& ar)
 
 bool Date::Write(Archive& ar)
 {
-    ar << UInt(2, day);
+    const RecordScope scope(ar, this);
+    ar << UInt(2, day, "day");
     ar << Literal(".");
-    ar << UInt(2, month);
+    ar << UInt(2, month, "month");
     ar << Literal(".");
     if (version < 502) {
-        ar << UInt(2, year);
+        ar << UInt(2, year, "year");
     } else {
-        ar << UInt(4, year);
+        ar << UInt(4, year, "year");
     }
     return Healthy(ar);
 }

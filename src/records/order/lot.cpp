@@ -14,33 +14,34 @@ Lot::Lot()
 
 bool Lot::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     ar << Tag("LOT_____");
-    ar << UInt(3, version) << EndLine;
+    ar << UInt(3, version, "version") << EndLine;
 
-    ar << UInt(2, lotNumber);
+    ar << UInt(2, lotNumber, "lotNumber");
     ar << Blank;
     if (version < 600) {
-        ar << Text(8, lotText);
+        ar << Text(8, lotText, "lotText");
     } else {
-        ar << Text(20, lotText);
+        ar << Text(20, lotText, "lotText");
     }
     ar << Blank;
-    ar << Real(1, 3, lotReal1);
+    ar << Real(1, 3, lotReal1, "lotReal1");
     ar << Blank;
-    ar << Text(2, lotCode2);
+    ar << Text(2, lotCode2, "lotCode2");
     ar << Blank;
-    ar << Real(2, 3, lotReal2);
+    ar << Real(2, 3, lotReal2, "lotReal2");
     ar << Blank;
-    ar << UInt(6, lotValue1);
+    ar << UInt(6, lotValue1, "lotValue1");
     ar << Blank;
-    ar << UInt(6, lotValue2);
+    ar << UInt(6, lotValue2, "lotValue2");
     ar << Blank;
-    ar << UInt(6, lotValue3);
+    ar << UInt(6, lotValue3, "lotValue3");
     ar << Blank;
-    ar << UInt(3, lotValue4);
+    ar << UInt(3, lotValue4, "lotValue4");
     if (version >= 600) {
         ar << Blank;
-        ar << Text(20, lotText20);
+        ar << Text(20, lotText20, "lotText20");
     }
     ar << EndLine;
 

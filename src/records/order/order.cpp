@@ -105,31 +105,32 @@ Order& Order::operator=(Order&& other) noexcept
 
 bool Order::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     ar << Tag("HEADER__");
 
-    ar << UInt(3, version) << EndLine;
+    ar << UInt(3, version, "version") << EndLine;
 
     if (version < 600) {
-        ar << Text(8, orderNumber);
+        ar << Text(8, orderNumber, "orderNumber");
         ar << Blanks(2) << Blank;
     } else {
-        ar << Text(20, orderNumber);
+        ar << Text(20, orderNumber, "orderNumber");
         ar << Blank;
     }
-    ar << Text(5, orderText5);
+    ar << Text(5, orderText5, "orderText5");
     ar << Blank;
-    ar << Text(4, orderText4);
+    ar << Text(4, orderText4, "orderText4");
     ar << Blank;
-    ar << RText(8, orderText8, Adjust::right);
+    ar << RText(8, orderText8, Adjust::right, "orderText8");
     ar << Blank;
-    ar << UInt(2, orderValue2);
+    ar << UInt(2, orderValue2, "orderValue2");
     ar << Blank;
     if (version <= 502) {
-        ar << RText(2, legacyText2);
+        ar << RText(2, legacyText2, "legacyText2");
         ar << Blank;
-        ar << RText(40, legacyText40);
+        ar << RText(40, legacyText40, "legacyText40");
     } else {
-        ar << RText(2, orderText2);
+        ar << RText(2, orderText2, "orderText2");
     }
     ar << EndLine;
 
@@ -140,12 +141,12 @@ bool Order::Write(Archive& ar)
     ar << EndLine;
 
     if (version >= 600) {
-        ar << Text(40, orderText40) << EndLine;
+        ar << Text(40, orderText40, "orderText40") << EndLine;
     }
 
     ar << Literal("0");
     ar << Blank;
-    ar << UInt(2, static_cast<std::uint32_t>(elementParts.size()));
+    ar << UInt(2, static_cast<std::uint32_t>(elementParts.size()), "elementParts");
     ar << Blank;
     ar << Literal("000") << EndLine;
 

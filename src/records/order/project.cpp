@@ -22,10 +22,11 @@ bool Project::Read(Archive& ar)
 
 bool Project::Write(Archive& ar)
 {
-    ar << Text(20, projectText1) << EndLine;
-    ar << Text(20, projectText2) << EndLine;
-    ar << Text(20, projectText3) << EndLine;
-    ar << Text(20, projectText4) << EndLine;
+    const RecordScope scope(ar, this);
+    ar << Text(20, projectText1, "projectText1") << EndLine;
+    ar << Text(20, projectText2, "projectText2") << EndLine;
+    ar << Text(20, projectText3, "projectText3") << EndLine;
+    ar << Text(20, projectText4, "projectText4") << EndLine;
     return Healthy(ar);
 }
 

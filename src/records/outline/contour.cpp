@@ -10,9 +10,10 @@ Contour::Contour(std::int32_t formatVersion) : ItCollectionImpl([](auto& self) -
 
 bool Contour::Write(Archive& ar)
 {
-    ar << UInt(2, contourNumber) << Blank;
-    ar << ZText(2, contourCode) << Blank;
-    ar << UInt(2, static_cast<std::uint32_t>(geoData.size()));
+    const RecordScope scope(ar, this);
+    ar << UInt(2, contourNumber, "contourNumber") << Blank;
+    ar << ZText(2, contourCode, "contourCode") << Blank;
+    ar << UInt(2, static_cast<std::uint32_t>(geoData.size()), "geoData");
     // Each element stands on a line of its own; an empty contour still ends
     // its own line, and the record ends the last one.
     for (GeoData& element : geoData) {
@@ -43,9 +44,10 @@ ContourData::ContourData() : ItCollectionImpl([](auto& self) -> auto& { return s
 
 bool ContourData::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     ar << Tag("CONTOUR_");
-    ar << UInt(3, version) << EndLine;
-    ar << UInt(2, static_cast<std::uint32_t>(contours.size())) << EndLine;
+    ar << UInt(3, version, "version") << EndLine;
+    ar << UInt(2, static_cast<std::uint32_t>(contours.size()), "contours") << EndLine;
     WriteElements(ar, contours);
     ar << Tag("END");
     return Healthy(ar);

@@ -10,12 +10,13 @@ Cutout::Cutout(std::int32_t formatVersion) : ItCollectionImpl([](auto& self) -> 
 
 bool Cutout::Write(Archive& ar)
 {
-    ar << UInt(2, cutoutNumber) << Blank;
-    ar << Real(2, 3, cutoutValue) << Blank;
+    const RecordScope scope(ar, this);
+    ar << UInt(2, cutoutNumber, "cutoutNumber") << Blank;
+    ar << Real(2, 3, cutoutValue, "cutoutValue") << Blank;
     if (version >= 600) {
-        ar << Text(40, cutoutName) << Blank;
+        ar << Text(40, cutoutName, "cutoutName") << Blank;
     }
-    ar << UInt(2, static_cast<std::uint32_t>(geoData.size()));
+    ar << UInt(2, static_cast<std::uint32_t>(geoData.size()), "geoData");
     for (GeoData& element : geoData) {
         ar << EndLine;
         element.Write(ar);
@@ -43,9 +44,10 @@ CutoutData::CutoutData() : ItCollectionImpl([](auto& self) -> auto& { return sta
 
 bool CutoutData::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     ar << Tag("CUTOUT__");
-    ar << UInt(3, version) << EndLine;
-    ar << UInt(2, static_cast<std::uint32_t>(cutouts.size())) << EndLine;
+    ar << UInt(3, version, "version") << EndLine;
+    ar << UInt(2, static_cast<std::uint32_t>(cutouts.size()), "cutouts") << EndLine;
     WriteElements(ar, cutouts);
     ar << Tag("END");
     return Healthy(ar);

@@ -10,34 +10,35 @@ MountingPart::MountingPart(std::int16_t formatVersion) : ItCollectionImpl([](aut
 
 bool MountingPart::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     // Line 1.
-    ar << UInt(version < 502 ? 2 : 3, partNumber) << Blank;
-    ar << Char(partKind);
-    ar << UInt(2, partSubCode) << Blank;
+    ar << UInt(version < 502 ? 2 : 3, partNumber, "partNumber") << Blank;
+    ar << Char(partKind, "partKind");
+    ar << UInt(2, partSubCode, "partSubCode") << Blank;
     ar << Literal("000") << Blank;
-    ar << Text(10, partCode) << Blank;
-    ar << Text(40, partName) << EndLine;
+    ar << Text(10, partCode, "partCode") << Blank;
+    ar << Text(40, partName, "partName") << EndLine;
     // Lines 2 and 3 stand at the right end of their places.
     if (version >= 600) {
-        ar << RText(20, partText1, Adjust::right) << EndLine;
-        ar << RText(20, partText2, Adjust::right) << EndLine;
+        ar << RText(20, partText1, Adjust::right, "partText1") << EndLine;
+        ar << RText(20, partText2, Adjust::right, "partText2") << EndLine;
     }
     // Last line.
-    ar << Real(2, 3, partArea) << Blank;
-    ar << UInt(3, setValue1) << Blank;
+    ar << Real(2, 3, partArea, "partArea") << Blank;
+    ar << UInt(3, setValue1, "setValue1") << Blank;
     if (version >= 600) {
-        ar << SInt(5, position.x) << Blank;
-        ar << SInt(5, position.y) << Blank;
-        ar << SInt(5, setValue2);
+        ar << SInt(5, position.x, "position.x") << Blank;
+        ar << SInt(5, position.y, "position.y") << Blank;
+        ar << SInt(5, setValue2, "setValue2");
     } else {
-        ar << UInt(3, setValue2);
+        ar << UInt(3, setValue2, "setValue2");
     }
     ar << Blank;
-    ar << UInt(4, partValue1) << Blank;
-    ar << UInt(3, partValue2) << Blank;
-    ar << UInt(5, partWidth) << Blank;
-    ar << UInt(5, partHeight) << Blank;
-    ar << UInt(2, static_cast<std::uint32_t>(geoData.size()));
+    ar << UInt(4, partValue1, "partValue1") << Blank;
+    ar << UInt(3, partValue2, "partValue2") << Blank;
+    ar << UInt(5, partWidth, "partWidth") << Blank;
+    ar << UInt(5, partHeight, "partHeight") << Blank;
+    ar << UInt(2, static_cast<std::uint32_t>(geoData.size()), "geoData");
     for (GeoData& element : geoData) {
         ar << EndLine;
         element.Write(ar);
@@ -82,9 +83,10 @@ MountingPartData::MountingPartData() : ItCollectionImpl([](auto& self) -> auto& 
 
 bool MountingPartData::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     ar << Tag("MOUNPART");
-    ar << UInt(3, version) << EndLine;
-    ar << UInt(version < 502 ? 2 : 3, static_cast<std::uint32_t>(parts.size())) << EndLine;
+    ar << UInt(3, version, "version") << EndLine;
+    ar << UInt(version < 502 ? 2 : 3, static_cast<std::uint32_t>(parts.size()), "parts") << EndLine;
     WriteElements(ar, parts);
     ar << Tag("END");
     return Healthy(ar);

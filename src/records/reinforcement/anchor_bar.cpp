@@ -8,13 +8,14 @@ namespace ItUnitechnik {
 
 bool AnchorBar::Write(Archive& ar)
 {
-    ar << UInt(3, firstType);
+    const RecordScope scope(ar, this);
+    ar << UInt(3, firstType, "firstType");
     ar << Blank;
-    ar << UInt(3, secondType);
+    ar << UInt(3, secondType, "secondType");
     ar << Blank;
-    ar << UInt(5, firstLength);
+    ar << UInt(5, firstLength, "firstLength");
     ar << Blank;
-    ar << UInt(5, secondLength);
+    ar << UInt(5, secondLength, "secondLength");
     ar << Blank;
     return Healthy(ar);
 }
@@ -27,9 +28,10 @@ bool AnchorBar::Read(Archive& ar)
 
 bool AnchorBarData::Write(Archive& ar)
 {
-    ar << UInt(3, anchorCode);
+    const RecordScope scope(ar, this);
+    ar << UInt(3, anchorCode, "anchorCode");
     ar << Blank;
-    ar << UInt(3, bars.size());
+    ar << UInt(3, bars.size(), "bars");
     // The last line is ended by the list that holds the girder.
     if (bars.empty()) {
         ar << EndLine;

@@ -8,19 +8,20 @@ namespace ItUnitechnik {
 
 bool BendingForm::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     // The one text of the format that is written whole: a longer code shifts
     // the rest of the line.
-    ar << ZTextWhole(3, formCode);
+    ar << ZTextWhole(3, formCode, "formCode");
     ar << Blank;
-    ar << UInt(5, formValueA);
+    ar << UInt(5, formValueA, "formValueA");
     ar << Blank;
-    ar << UInt(5, formValueB);
+    ar << UInt(5, formValueB, "formValueB");
     ar << Blank;
-    ar << UInt(5, formValueC);
+    ar << UInt(5, formValueC, "formValueC");
     ar << Blank;
-    ar << UInt(5, formValueD);
+    ar << UInt(5, formValueD, "formValueD");
     ar << Blank;
-    ar << UInt(3, formValueE);
+    ar << UInt(3, formValueE, "formValueE");
     return Healthy(ar);
 }
 

@@ -8,9 +8,10 @@ namespace ItUnitechnik {
 
 bool BendingFormSegment::Write(Archive& ar)
 {
-    ar << UInt(5, length);
+    const RecordScope scope(ar, this);
+    ar << UInt(5, length, "length");
     ar << Blank;
-    ar << SInt(3, angle);
+    ar << SInt(3, angle, "angle");
     return Healthy(ar);
 }
 
@@ -22,9 +23,10 @@ bool BendingFormSegment::Read(Archive& ar)
 
 bool BendingFormPart::Write(Archive& ar)
 {
-    ar << UInt(2, partNumber);
+    const RecordScope scope(ar, this);
+    ar << UInt(2, partNumber, "partNumber");
     ar << Blank;
-    ar << UInt(2, segments.size());
+    ar << UInt(2, segments.size(), "segments");
     for (BendingFormSegment& segment : segments) {
         ar << Blank;
         segment.Write(ar);
@@ -47,11 +49,12 @@ bool BendingFormPart::Read(Archive& ar)
 
 bool BendingFormFree::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     // No adjustment of its own: the bar's integer fields before it leave the
     // right alignment in force.
-    ar << RText(3, formCode);
+    ar << RText(3, formCode, "formCode");
     ar << Blank;
-    ar << UInt(2, parts.size());
+    ar << UInt(2, parts.size(), "parts");
     if (parts.empty()) {
         ar << EndLine;
     }

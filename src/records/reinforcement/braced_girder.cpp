@@ -13,44 +13,45 @@ BracedGirder::BracedGirder()
 
 bool BracedGirder::Write(Archive& ar)
 {
-    ar << UInt(3, number);
+    const RecordScope scope(ar, this);
+    ar << UInt(3, number, "number");
     ar << Blank;
-    ar << ZText(3, code);
+    ar << ZText(3, code, "code");
     ar << Blank;
-    ar << UInt(5, typeNumber);
+    ar << UInt(5, typeNumber, "typeNumber");
     ar << Blank;
-    ar << Text(10, designation);
+    ar << Text(10, designation, "designation");
     ar << Blank;
-    ar << UInt(5, firstSize);
+    ar << UInt(5, firstSize, "firstSize");
     ar << Blank;
-    ar << SInt(5, position.x);
+    ar << SInt(5, position.x, "position.x");
     ar << Blank;
-    ar << SInt(5, position.y);
+    ar << SInt(5, position.y, "position.y");
     ar << Blank;
-    ar << SInt(5, positionZ);
+    ar << SInt(5, positionZ, "positionZ");
     ar << Blank;
-    ar << SInt(3, rotation);
+    ar << SInt(3, rotation, "rotation");
     ar << Blank;
-    ar << UInt(1, static_cast<int>(mountFlag));
+    ar << UInt(1, static_cast<int>(mountFlag), "mountFlag");
     ar << EndLine;
 
-    ar << ZText(3, firstCode);
+    ar << ZText(3, firstCode, "firstCode");
     ar << Blank;
-    ar << ZText(3, secondCode);
+    ar << ZText(3, secondCode, "secondCode");
     ar << Blank;
-    ar << UInt(3, auxNumber);
+    ar << UInt(3, auxNumber, "auxNumber");
     ar << Blank;
-    ar << Real(2, 3, scaledValue);
+    ar << Real(2, 3, scaledValue, "scaledValue");
     ar << Blank;
-    ar << UInt(2, shortNumber);
+    ar << UInt(2, shortNumber, "shortNumber");
     ar << Blank;
-    ar << RText(3, thirdCode, Adjust::right);
+    ar << RText(3, thirdCode, Adjust::right, "thirdCode");
     ar << Blank;
-    ar << UInt(5, lastNumber);
+    ar << UInt(5, lastNumber, "lastNumber");
     ar << Blank;
-    ar << UInt(1, static_cast<int>(hasWeldingPoints));
+    ar << UInt(1, static_cast<int>(hasWeldingPoints), "hasWeldingPoints");
     ar << Char(L'0');
-    ar << UInt(1, static_cast<int>(hasAnchorBars));
+    ar << UInt(1, static_cast<int>(hasAnchorBars), "hasAnchorBars");
 
     // Whatever comes last is ended by the list.
     if (hasWeldingPoints) {
@@ -99,9 +100,10 @@ bool BracedGirder::Read(Archive& ar)
 
 bool BracedGirderData::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     ar << Tag("BRGIRDER");
-    ar << UInt(3, version) << EndLine;
-    ar << UInt(3, girders.size()) << EndLine;
+    ar << UInt(3, version, "version") << EndLine;
+    ar << UInt(3, girders.size(), "girders") << EndLine;
     WriteElements(ar, girders);
     ar << Tag("END");
     return Healthy(ar);

@@ -8,17 +8,18 @@ namespace ItUnitechnik {
 
 bool ExternalIron::Write(Archive& ar)
 {
-    ar << UInt(3, ironNumber);
+    const RecordScope scope(ar, this);
+    ar << UInt(3, ironNumber, "ironNumber");
     ar << Blank;
-    ar << UInt(2, ironCode);
+    ar << UInt(2, ironCode, "ironCode");
     ar << Blank;
-    ar << UInt(5, ironCount);
+    ar << UInt(5, ironCount, "ironCount");
     ar << Blank;
-    ar << Real(3, 3, ironValue);
+    ar << Real(3, 3, ironValue, "ironValue");
     ar << Blank;
     // No alignment of its own: the Real before it leaves the text at the
     // right end of its places.
-    ar << RText(30, ironText);
+    ar << RText(30, ironText, "ironText");
     return Healthy(ar);
 }
 
@@ -33,9 +34,10 @@ bool ExternalIron::Read(Archive& ar)
 
 bool ExternalIronData::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     ar << Tag("EXTIRON_");
-    ar << UInt(3, version) << EndLine;
-    ar << UInt(3, irons.size()) << EndLine;
+    ar << UInt(3, version, "version") << EndLine;
+    ar << UInt(3, irons.size(), "irons") << EndLine;
     WriteElements(ar, irons);
     ar << Tag("END");
     return Healthy(ar);

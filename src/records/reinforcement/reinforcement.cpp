@@ -45,16 +45,17 @@ std::int16_t Reinforcement::appendSteelmat(const std::wstring& name, std::int32_
 
 bool Reinforcement::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     ar << Tag("REFORCEM");
-    ar << UInt(3, version) << EndLine;
+    ar << UInt(3, version, "version") << EndLine;
 
-    ar << Text(10, firstText);
+    ar << Text(10, firstText, "firstText");
     ar << Blank;
-    ar << Text(4, secondText);
+    ar << Text(4, secondText, "secondText");
     ar << Blank;
-    ar << Text(8, thirdText);
+    ar << Text(8, thirdText, "thirdText");
     ar << Blank;
-    ar << UInt(1, matFlag);
+    ar << UInt(1, matFlag, "matFlag");
     ar << EndLine;
 
     ar << Tag("END");

@@ -29,53 +29,54 @@ void Rodstock::applyFlagsCode(std::int32_t flagsCode)
 
 bool Rodstock::Write(Archive& ar)
 {
-    ar << UInt(3, number);
+    const RecordScope scope(ar, this);
+    ar << UInt(3, number, "number");
     ar << Blank;
-    ar << ZText(3, code);
+    ar << ZText(3, code, "code");
     ar << Blank;
-    ar << UInt(1, rodKind);
+    ar << UInt(1, rodKind, "rodKind");
     ar << Blank;
     if (version >= 600) {
-        ar << Text(10, designation);
+        ar << Text(10, designation, "designation");
     } else {
-        ar << Text(3, designation);
+        ar << Text(3, designation, "designation");
     }
     ar << Blank;
-    ar << UInt(5, firstSize);
+    ar << UInt(5, firstSize, "firstSize");
     ar << Blank;
-    ar << UInt(3, secondSize);
+    ar << UInt(3, secondSize, "secondSize");
     ar << Blank;
-    ar << UInt(5, thirdSize);
+    ar << UInt(5, thirdSize, "thirdSize");
     ar << Blank;
-    ar << SInt(5, position.x);
+    ar << SInt(5, position.x, "position.x");
     ar << Blank;
-    ar << SInt(5, position.y);
+    ar << SInt(5, position.y, "position.y");
     ar << Blank;
-    ar << SInt(5, positionZ);
+    ar << SInt(5, positionZ, "positionZ");
     ar << Blank;
-    ar << SInt(3, rotation);
+    ar << SInt(3, rotation, "rotation");
     ar << Blank;
     // The signed field before it leaves `internal`: the text is padded in front.
-    ar << RText(10, extraDesignation);
+    ar << RText(10, extraDesignation, "extraDesignation");
     ar << Blank;
-    ar << UInt(1, static_cast<int>(mountFlag));
+    ar << UInt(1, static_cast<int>(mountFlag), "mountFlag");
     ar << EndLine;
 
-    ar << UInt(3, auxFirst);
+    ar << UInt(3, auxFirst, "auxFirst");
     ar << Blank;
-    ar << UInt(3, auxSecond);
+    ar << UInt(3, auxSecond, "auxSecond");
     ar << Blank;
-    ar << UInt(3, auxThird);
+    ar << UInt(3, auxThird, "auxThird");
     ar << Blank;
-    ar << UInt(5, auxFourth);
+    ar << UInt(5, auxFourth, "auxFourth");
     ar << Blank;
-    ar << UInt(5, auxFifth);
+    ar << UInt(5, auxFifth, "auxFifth");
     ar << Blank;
-    ar << UInt(5, auxSixth);
+    ar << UInt(5, auxSixth, "auxSixth");
     ar << Blank;
-    ar << UInt(1, static_cast<int>(hasWeldingPoints));
-    ar << UInt(1, static_cast<int>(hasSpacers));
-    ar << Char(bendingKind);
+    ar << UInt(1, static_cast<int>(hasWeldingPoints), "hasWeldingPoints");
+    ar << UInt(1, static_cast<int>(hasSpacers), "hasSpacers");
+    ar << Char(bendingKind, "bendingKind");
 
     // Whatever comes last is ended by the list.
     if (bendingKind == L'1') {
@@ -84,7 +85,7 @@ bool Rodstock::Write(Archive& ar)
         ar << Blank;
         secondForm.Write(ar);
         ar << Blank;
-        ar << SInt(3, formAngle);
+        ar << SInt(3, formAngle, "formAngle");
     } else if (bendingKind == L'2') {
         ar << EndLine;
         freeForm.Write(ar);
@@ -139,9 +140,10 @@ bool Rodstock::Read(Archive& ar)
 
 bool RodstockData::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     ar << Tag("RODSTOCK");
-    ar << UInt(3, version) << EndLine;
-    ar << UInt(3, bars.size()) << EndLine;
+    ar << UInt(3, version, "version") << EndLine;
+    ar << UInt(3, bars.size(), "bars") << EndLine;
     WriteElements(ar, bars);
     ar << Tag("END");
     return Healthy(ar);

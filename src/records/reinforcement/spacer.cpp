@@ -7,25 +7,26 @@ namespace ItUnitechnik {
 
 bool SpacerPosition::Write(Archive& ar)
 {
-    ar << UInt(5, value1);
+    const RecordScope scope(ar, this);
+    ar << UInt(5, value1, "value1");
     ar << Blank;
-    ar << UInt(5, value2);
+    ar << UInt(5, value2, "value2");
     ar << Blank;
-    ar << UInt(5, value3);
+    ar << UInt(5, value3, "value3");
     ar << Blank;
-    ar << UInt(5, value4);
+    ar << UInt(5, value4, "value4");
     ar << Blank;
-    ar << UInt(5, value5);
+    ar << UInt(5, value5, "value5");
     ar << Blank;
-    ar << UInt(5, value6);
+    ar << UInt(5, value6, "value6");
     ar << Blank;
-    ar << UInt(5, value7);
+    ar << UInt(5, value7, "value7");
     ar << Blank;
-    ar << UInt(5, value8);
+    ar << UInt(5, value8, "value8");
     ar << Blank;
-    ar << UInt(5, value9);
+    ar << UInt(5, value9, "value9");
     ar << Blank;
-    ar << UInt(5, value10);
+    ar << UInt(5, value10, "value10");
     return Healthy(ar);
 }
 
@@ -37,9 +38,10 @@ bool SpacerPosition::Read(Archive& ar)
 
 bool SpacerData::Write(Archive& ar)
 {
-    ar << UInt(3, spacerCode);
+    const RecordScope scope(ar, this);
+    ar << UInt(3, spacerCode, "spacerCode");
     ar << Blank;
-    ar << UInt(3, positions.size());
+    ar << UInt(3, positions.size(), "positions");
     // The last line is ended by the list that holds the bar.
     if (positions.empty()) {
         ar << EndLine;

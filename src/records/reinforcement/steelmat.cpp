@@ -10,35 +10,36 @@ Steelmat::Steelmat() : ItCollectionImpl<RodstockData>([](auto& self) -> auto& { 
 
 bool Steelmat::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     ar << Tag("STEELMAT");
-    ar << UInt(3, version) << EndLine;
+    ar << UInt(3, version, "version") << EndLine;
 
-    ar << UInt(2, number);
+    ar << UInt(2, number, "number");
     ar << Blank;
-    ar << SInt(5, positionX);
+    ar << SInt(5, positionX, "positionX");
     ar << Blank;
-    ar << SInt(5, positionY);
+    ar << SInt(5, positionY, "positionY");
     ar << Blank;
-    ar << SInt(5, positionZ);
+    ar << SInt(5, positionZ, "positionZ");
     ar << Blank;
-    ar << UInt(1, static_cast<int>(firstFlag));
+    ar << UInt(1, static_cast<int>(firstFlag), "firstFlag");
     ar << Blank;
-    ar << UInt(1, static_cast<int>(secondFlag));
+    ar << UInt(1, static_cast<int>(secondFlag), "secondFlag");
     ar << Blank;
     // The digit before it leaves the stream right-aligned: a short name stands
     // at the right end of its places.
-    ar << RText(20, name);
+    ar << RText(20, name, "name");
     ar << Blank;
-    ar << UInt(5, firstDimension);
+    ar << UInt(5, firstDimension, "firstDimension");
     ar << Blank;
-    ar << UInt(5, secondDimension);
+    ar << UInt(5, secondDimension, "secondDimension");
     ar << Blank;
-    ar << UInt(1, static_cast<std::int16_t>(matKind));
+    ar << UInt(1, static_cast<std::int16_t>(matKind), "matKind");
     ar << EndLine;
 
     if (version >= 600) {
-        ar << Text(20, extraTextA) << EndLine;
-        ar << Text(20, extraTextB) << EndLine;
+        ar << Text(20, extraTextA, "extraTextA") << EndLine;
+        ar << Text(20, extraTextB, "extraTextB") << EndLine;
     }
     ar << Tag("END");
 

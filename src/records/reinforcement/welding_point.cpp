@@ -8,9 +8,10 @@ namespace ItUnitechnik {
 
 bool WeldingIntersection::Write(Archive& ar)
 {
-    ar << UInt(5, offset);
+    const RecordScope scope(ar, this);
+    ar << UInt(5, offset, "offset");
     ar << Blank;
-    ar << UInt(3, weldCode);
+    ar << UInt(3, weldCode, "weldCode");
     return Healthy(ar);
 }
 
@@ -22,6 +23,7 @@ bool WeldingIntersection::Read(Archive& ar)
 
 bool WeldingPoint::Write(Archive& ar)
 {
+    const RecordScope scope(ar, this);
     bool first = true;
     for (WeldingIntersection& intersection : intersections) {
         if (!first) {
@@ -43,15 +45,16 @@ bool WeldingPoint::Read(Archive& ar)
 
 bool WeldingPointData::Write(Archive& ar)
 {
-    ar << UInt(3, weldValueA);
+    const RecordScope scope(ar, this);
+    ar << UInt(3, weldValueA, "weldValueA");
     ar << Blank;
-    ar << UInt(3, weldValueB);
+    ar << UInt(3, weldValueB, "weldValueB");
     ar << Blank;
-    ar << UInt(3, weldValueC);
+    ar << UInt(3, weldValueC, "weldValueC");
     ar << Blank;
-    ar << Char(weldLetter);
-    ar << UInt(1, static_cast<int>(weldFlag));
-    ar << UInt(3, points.size());
+    ar << Char(weldLetter, "weldLetter");
+    ar << UInt(1, static_cast<int>(weldFlag), "weldFlag");
+    ar << UInt(3, points.size(), "points");
     // The last line is ended by the list that holds the bar or girder.
     if (points.empty()) {
         ar << EndLine;

@@ -137,6 +137,9 @@ public:
         return arguments;
     }
 
+    // The lists that Read padded behind a count the script gave.
+    std::vector<Padding> TakePadded() { return std::move(padded_); }
+
 private:
     [[noreturn]] void FailCall(const std::string& reason) const
     {
@@ -390,6 +393,9 @@ private:
         if (reads <= length) {
             return;
         }
+        if (given_.count(counted.count) > 0) {
+            padded_.push_back(Padding{&counted, arguments.Integer(counted.count), length, reads});
+        }
         if (reads - length > paddingLeft_) {
             Fail(counted.count, std::to_string(arguments.Integer(counted.count)) + " " + counted.unitName + " make "
                                     + spec_.name + " read " + std::to_string(reads) + " " + counted.entryName
@@ -411,6 +417,7 @@ private:
     const CallSpec& spec_;
     std::int64_t& paddingLeft_;
     std::set<std::string> given_;
+    std::vector<Padding> padded_;
 };
 
 } // namespace
@@ -458,7 +465,9 @@ std::vector<Call> ReadCalls(const json& script)
         if (spec == nullptr) {
             throw BadInput(place + ": unknown call " + Quoted(callName));
         }
-        calls.push_back(Call{index, spec, CallReader(index, *spec, paddingLeft).Read(call)});
+        CallReader reader(index, *spec, paddingLeft);
+        Arguments arguments = reader.Read(call);
+        calls.push_back(Call{index, spec, std::move(arguments), reader.TakePadded()});
     }
     return calls;
 }
@@ -478,7 +487,7 @@ void RedirectLastDocument(std::vector<Call>& calls, const std::string& path)
     const CallSpec* end = FindCall("endDocument");
     Arguments arguments;
     arguments.Set(end->pathKey, *text);
-    calls.push_back(Call{calls.size(), end, std::move(arguments)});
+    calls.push_back(Call{calls.size(), end, std::move(arguments), {}});
 }
 
 void CheckPaths(const std::vector<Call>& calls)

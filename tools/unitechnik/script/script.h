@@ -20,10 +20,20 @@ namespace ItUnitechnik::Tool::Script {
 // would need more is refused rather than making gigabytes of zeros.
 inline constexpr std::int64_t kMostPadding = 1000000;
 
+// A count given in the script that states more than its list holds: the
+// export reads zeros for the rest, as the padded list holds them.
+struct Padding {
+    const CountedList* counted;
+    std::int64_t count;  // as given
+    std::int64_t length; // entries of the list as given
+    std::int64_t reads;  // entries the export reads for the count
+};
+
 struct Call {
     std::size_t index; // in the script's "calls", from 0
     const CallSpec* spec;
     Arguments arguments;
+    std::vector<Padding> padded; // the lists padded behind a count that was given
 };
 
 // Every call of a script, checked whole before any of them runs: every key

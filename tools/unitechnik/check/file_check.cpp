@@ -1,0 +1,119 @@
+#include "check/file_check.h"
+
+#include "check/record_findings.h"
+#include "check/written_places.h"
+#include "reading/tolerant_reading.h"
+#include "tree/flat_records.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace ItUnitechnik::Tool::Check {
+namespace {
+
+Finding At(const std::string& path, Place place, Code code, std::string message)
+{
+    Finding finding;
+    finding.path = path;
+    finding.line = place.line;
+    finding.column = place.column;
+    finding.code = code;
+    finding.message = std::move(message);
+    return finding;
+}
+
+// Where each bare line feed stands: its line and its column.
+std::vector<Place> BareLineFeeds(const std::string& bytes, const std::vector<std::size_t>& lines)
+{
+    std::vector<Place> places;
+    std::size_t line = 1;
+    std::size_t column = 1;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        if (bytes[i] == '\n') {
+            if (std::binary_search(lines.begin(), lines.end(), line)) {
+                places.push_back(Place{line, column});
+            }
+            ++line;
+            column = 1;
+        } else {
+            ++column;
+        }
+    }
+    return places;
+}
+
+} // namespace
+
+std::optional<Finding> StopFinding(const std::string& path, const TolerantDocument& document)
+{
+    if (!document.stop) {
+        return std::nullopt;
+    }
+    const ReadStop& at = *document.stop;
+    const Place place{at.line, at.column};
+    if (document.trailingData) {
+        return At(path, place, Code::trailingData, "bytes after the last order");
+    }
+    if (at.atEnd) {
+        return At(path, place, Code::cutOff,
+                  "the file ends inside " + (at.record.empty() ? std::string("a record") : at.record) +
+                      ": expected " + at.expected);
+    }
+    return At(path, place, Code::unreadableLine,
+              "expected " + at.expected + (at.record.empty() ? std::string() : " in " + at.record));
+}
+
+std::vector<Finding> CheckFile(const std::string& path, const std::string& bytes)
+{
+    TolerantDocument document = ReadTolerantly(bytes);
+    std::vector<Finding> findings;
+
+    for (const Place& place : BareLineFeeds(bytes, document.bareLineEnds)) {
+        findings.push_back(At(path, place, Code::lineEnd,
+                              "line " + std::to_string(place.line) + " ends in a line feed without a carriage return"));
+    }
+
+    std::optional<Place> stop;
+    if (std::optional<Finding> stopped = StopFinding(path, document)) {
+        stop = Place{stopped->line, stopped->column};
+        findings.push_back(std::move(*stopped));
+    }
+    // Of a document read only in part, what stands before the stop.
+    const auto beforeStop = [&stop](const Place& place) { return !stop || place < *stop; };
+
+    const WrittenDocument written = WriteInMemory(document.orders, true);
+    const Tree::FlatList flat = Tree::Flatten(document.orders);
+    const Tree::RecordIndex records(flat);
+    for (const RecordFinding& finding : FieldFindings(written, records)) {
+        if (finding.written && beforeStop(*finding.written)) {
+            Finding found = At(path, *finding.written, finding.code, finding.message);
+            found.details["record"] = finding.path;
+            found.details["member"] = finding.name;
+            findings.push_back(std::move(found));
+        }
+    }
+    for (const RecordFinding& finding : TreeFindings(document.orders, records)) {
+        const std::optional<Place> place = PlaceOf(finding, written);
+        if (!place || !beforeStop(*place)) {
+            continue;
+        }
+        // An element read only in part may have lost its contour to the stop.
+        if (finding.code == Code::noElementContent && stop) {
+            const std::optional<Place> end = written.RecordEnd(finding.record);
+            if (!end || !(*end < *stop)) {
+                continue;
+            }
+        }
+        Finding found = At(path, *place, finding.code, finding.message);
+        found.details["record"] = finding.path;
+        found.details["member"] = finding.name;
+        findings.push_back(std::move(found));
+    }
+
+    std::stable_sort(findings.begin(), findings.end(), [](const Finding& a, const Finding& b) {
+        return std::tie(a.line, a.column) < std::tie(b.line, b.column);
+    });
+    return findings;
+}
+
+} // namespace ItUnitechnik::Tool::Check

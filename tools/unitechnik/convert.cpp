@@ -1,0 +1,147 @@
+// unitechnik convert FILE --version N -o OUT [--json] [--ignore CODE]...:
+// a Unitechnik file written again at another format version, for a plant on
+// older (or newer) software. What the conversion cuts is told with check's
+// codes, at its place in OUT.
+#include "check/file_check.h"
+#include "check/findings.h"
+#include "check/record_findings.h"
+#include "check/written_places.h"
+#include "convert/format_version.h"
+#include "exports/document.h"
+#include "files.h"
+#include "sub_command.h"
+#include "tree/flat_records.h"
+#include "tree/tree_json.h"
+
+#include <CLI/CLI.hpp>
+
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace ItUnitechnik::Tool {
+namespace {
+
+class ConvertCommand final : public SubCommand {
+public:
+    const char* Name() const override { return "convert"; }
+
+    const char* Description() const override
+    {
+        return "Writes a Unitechnik file again at another format version and tells what the conversion cut; "
+               "exit 0 when nothing was cut, 1 when something was or the file does not read to its end";
+    }
+
+    void AddOptions(CLI::App& app) override
+    {
+        app.add_option("FILE", input_, "The Unitechnik file")->required();
+        app.add_option("--version", version_, "The format version to write, as startOrder takes it (such as 502)")
+            ->required()
+            ->check(CLI::Range(0, 65535));
+        app.add_option("-o,--output", output_, "The file to write")->required()->type_name("OUT");
+        app.add_flag("--json", json_, "What was cut as one JSON array");
+        app.add_option("--ignore", ignored_, "Leaves out a code (UT101 or text-cut); may be given more than once")
+            ->type_name("CODE");
+    }
+
+    int Run() override
+    {
+        std::set<Check::Code> ignored;
+        for (const std::string& text : ignored_) {
+            const std::optional<Check::Code> code = Check::FindCode(text);
+            if (!code) {
+                throw BadInput("--ignore: no code \"" + text + "\" (the codes are " + Check::KnownCodes() + ")");
+            }
+            ignored.insert(*code);
+        }
+        const std::wstring output = Tree::WideFromUtf8(output_);
+        if (output.empty()) {
+            throw BadInput("-o: \"" + output_ + "\" is no file name");
+        }
+        const std::optional<std::string> bytes = ReadWholeFile(input_);
+        if (!bytes) {
+            throw FileError("cannot read \"" + input_ + "\"");
+        }
+
+        TolerantDocument document = ReadTolerantly(*bytes);
+        // A document read only in part is not written: the rest would be lost
+        // without a word. Bytes behind the last order are left behind.
+        std::vector<Check::Finding> findings;
+        if (std::optional<Check::Finding> stop = Check::StopFinding(input_, document)) {
+            const bool whole = document.trailingData;
+            findings.push_back(std::move(*stop));
+            if (!whole) {
+                Finish(findings, ignored);
+                return kFailed;
+            }
+        }
+
+        Convert::SetFormatVersion(document.orders, static_cast<std::uint16_t>(version_));
+        const Check::WrittenDocument written = Check::WriteInMemory(document.orders, true);
+        const Tree::FlatList flat = Tree::Flatten(document.orders);
+        const Tree::RecordIndex records(flat);
+        for (const Check::RecordFinding& cut : Check::FieldFindings(written, records)) {
+            findings.push_back(InOutput(cut, *cut.written));
+        }
+        // Below 600 a point has no room for its sign.
+        for (const Check::RecordFinding& point : Check::TreeFindings(document.orders, records)) {
+            if (point.writtenAsZero) {
+                if (const std::optional<Check::Place> place = Check::PlaceOf(point, written)) {
+                    findings.push_back(InOutput(point, *place));
+                }
+            }
+        }
+
+        if (!CanWriteFile(output_)) {
+            throw FileError("cannot write \"" + output_ + "\"");
+        }
+        Document converted;
+        converted.orders = std::move(document.orders);
+        converted.Save(output);
+        converted.orders.clear();
+        if (!FileIsThere(output_)) {
+            throw FileError("cannot write \"" + output_ + "\"");
+        }
+        return Finish(findings, ignored) ? kFailed : kDone;
+    }
+
+private:
+    Check::Finding InOutput(const Check::RecordFinding& found, const Check::Place& place) const
+    {
+        Check::Finding finding;
+        finding.path = output_;
+        finding.line = place.line;
+        finding.column = place.column;
+        finding.code = found.code;
+        finding.message = found.message;
+        finding.details["record"] = found.path;
+        finding.details["member"] = found.name;
+        return finding;
+    }
+
+    // Prints what is left after --ignore; whether anything is.
+    bool Finish(std::vector<Check::Finding>& findings, const std::set<Check::Code>& ignored) const
+    {
+        const std::vector<Check::Finding> kept = Check::Without(std::move(findings), ignored);
+        if (json_ || !kept.empty()) {
+            Check::PrintFindings(kept, json_);
+        }
+        return !kept.empty();
+    }
+
+    std::string input_;
+    std::string output_;
+    int version_ = 0;
+    bool json_ = false;
+    std::vector<std::string> ignored_;
+};
+
+} // namespace
+
+std::unique_ptr<SubCommand> MakeConvertCommand()
+{
+    return std::make_unique<ConvertCommand>();
+}
+
+} // namespace ItUnitechnik::Tool
