@@ -4,7 +4,7 @@
 #include "framework/archive.h"
 #include "platform/platform.h"
 
-#include <exception>
+#include <new>
 #include <sstream>
 #include <string>
 
@@ -26,9 +26,12 @@ const it_char16 kErrorRodstocks[] = {'E', 'R', 'R', 'O', 'R', ' ', 'R', 'O', 'D'
 const it_char16 kErrorGirders[] = {'E', 'R', 'R', 'O', 'R', ' ', 'B', 'R', 'G', 'I', 'R', 'D', 'E', 'R', 0};
 const it_char16 kErrorReinforcement[] = {'E', 'R', 'R', 'O', 'R', ' ', 'R', 'E', 'F', 'O', 'R', 'C', 'E', 'M', 0};
 const it_char16 kErrorExternalIrons[] = {'E', 'R', 'R', 'O', 'R', ' ', 'E', 'X', 'T', 'I', 'R', 'O', 'N', '_', 0};
+// The text could not be made: memory ran out on the way.
+const it_char16 kErrorMemory[] = {'E', 'R', 'R', 'O', 'R', ' ', 'M', 'E', 'M', 'O', 'R', 'Y', 0};
 
 const it_char16* const kConstants[] = {kEmpty, kErrorMountingParts, kErrorRodstocks,
-                                       kErrorGirders, kErrorReinforcement, kErrorExternalIrons};
+                                       kErrorGirders, kErrorReinforcement, kErrorExternalIrons,
+                                       kErrorMemory};
 
 // The host's signature hands out a writable pointer; a constant stays one.
 it_char16* AsResult(const it_char16* constant)
@@ -42,9 +45,7 @@ it_char16* ToHostBlock(const std::wstring& text)
 {
     void* block = ItUnitechnik::Platform::AllocateHostBlock(sizeof(it_char16) * (text.size() + 1));
     if (block == nullptr) {
-        // There is no result that could say so: the process ends, as a
-        // bounded copy into no memory would end it.
-        std::terminate();
+        throw std::bad_alloc();
     }
     it_char16* out = static_cast<it_char16*>(block);
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -58,8 +59,11 @@ it_char16* ToHostBlock(const std::wstring& text)
 
 extern "C" {
 
+// Nothing thrown inside the library reaches the host: each export ends in a
+// handler that gives the result the header names for that case.
+
 ITUNITECHNIK_API it_char16* getFullReinforcementString(void)
-{
+try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
         return AsResult(kEmpty);
@@ -92,10 +96,12 @@ ITUNITECHNIK_API it_char16* getFullReinforcementString(void)
         return AsResult(kErrorExternalIrons);
     }
     return ToHostBlock(buffer.str());
+} catch (...) {
+    return AsResult(kErrorMemory);
 }
 
 ITUNITECHNIK_API void freeFullReinforcementString(it_char16* text)
-{
+try {
     if (text == nullptr) {
         return;
     }
@@ -105,6 +111,8 @@ ITUNITECHNIK_API void freeFullReinforcementString(it_char16* text)
         }
     }
     ItUnitechnik::Platform::FreeHostBlock(text);
+} catch (...) {
+    // Nothing to report: the call ends here.
 }
 
 } // extern "C"
