@@ -8,14 +8,17 @@ namespace ItUnitechnik {
 
 Layer::Layer()
     : ItCollectionImpl<std::vector<Lot>>(&lots),
-      ItCollectionImpl<std::vector<MountingPart>>(&mountingPartData.parts)
+      ItCollectionImpl<std::vector<MountingPart>>(nullptr)
 {
+    // These lists lie inside members that are made after the bases: the
+    // views are pointed at them once the members stand.
+    ItCollectionImpl<std::vector<MountingPart>>::container = &mountingPartData.parts;
 }
 
 Layer::Layer(const Layer& other)
     : Serializable(other),
       ItCollectionImpl<std::vector<Lot>>(&lots),
-      ItCollectionImpl<std::vector<MountingPart>>(&mountingPartData.parts),
+      ItCollectionImpl<std::vector<MountingPart>>(nullptr),
       version(other.version),
       layerValue1(other.layerValue1),
       layerValue2(other.layerValue2),
@@ -26,6 +29,9 @@ Layer::Layer(const Layer& other)
       mountingPartData(other.mountingPartData),
       reinforcement(other.reinforcement)
 {
+    // These lists lie inside members that are made after the bases: the
+    // views are pointed at them once the members stand.
+    ItCollectionImpl<std::vector<MountingPart>>::container = &mountingPartData.parts;
 }
 
 bool Layer::Write(Archive& ar)

@@ -7,15 +7,19 @@
 namespace ItUnitechnik {
 
 Lot::Lot()
-    : ItCollectionImpl<std::vector<Contour>>(&contourData.contours),
-      ItCollectionImpl<std::vector<Cutout>>(&cutoutData.cutouts)
+    : ItCollectionImpl<std::vector<Contour>>(nullptr),
+      ItCollectionImpl<std::vector<Cutout>>(nullptr)
 {
+    // These lists lie inside members that are made after the bases: the
+    // views are pointed at them once the members stand.
+    ItCollectionImpl<std::vector<Contour>>::container = &contourData.contours;
+    ItCollectionImpl<std::vector<Cutout>>::container = &cutoutData.cutouts;
 }
 
 Lot::Lot(const Lot& other)
     : Serializable(other),
-      ItCollectionImpl<std::vector<Contour>>(&contourData.contours),
-      ItCollectionImpl<std::vector<Cutout>>(&cutoutData.cutouts),
+      ItCollectionImpl<std::vector<Contour>>(nullptr),
+      ItCollectionImpl<std::vector<Cutout>>(nullptr),
       version(other.version),
       lotNumber(other.lotNumber),
       lotText(other.lotText),
@@ -30,6 +34,10 @@ Lot::Lot(const Lot& other)
       contourData(other.contourData),
       cutoutData(other.cutoutData)
 {
+    // These lists lie inside members that are made after the bases: the
+    // views are pointed at them once the members stand.
+    ItCollectionImpl<std::vector<Contour>>::container = &contourData.contours;
+    ItCollectionImpl<std::vector<Cutout>>::container = &cutoutData.cutouts;
 }
 
 bool Lot::Write(Archive& ar)

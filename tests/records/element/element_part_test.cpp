@@ -248,7 +248,10 @@ TEST(ElementPartCopy, CopiesWorkOnTheirOwnLayers)
     assigned.Add(ConcreteLayer());
     EXPECT_EQ(copy.concreteLayers.size(), 2u);
     EXPECT_EQ(assigned.concreteLayers.size(), 3u);
-    assigned = assigned;
+    {
+        const auto& same = assigned; // assigned to itself
+        assigned = same;
+    }
     EXPECT_EQ(assigned.concreteLayers.size(), 3u);
     EXPECT_EQ(assigned.codeA2, L"00");
 }

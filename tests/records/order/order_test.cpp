@@ -190,7 +190,10 @@ TEST(OrderWrite, ACopyKeepsTheDateVersionEqual)
     Order assigned;
     assigned = order;
     EXPECT_EQ(assigned.date.version, 600);
-    assigned = assigned;
+    {
+        const auto& same = assigned; // assigned to itself
+        assigned = same;
+    }
     EXPECT_EQ(assigned.orderNumber, L"ORD-1");
     EXPECT_EQ(Order().date.version, 502);
 }
