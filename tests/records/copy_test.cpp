@@ -377,6 +377,18 @@ void ExpectOwnCollections(Polygon& o, Polygon& c)
     ExpectOwnCollection<Over<std::int32_t>>(o, c, 7, [](Polygon& r) { return r.segmentFlags.size(); });
 }
 
+// What a record keeps equal by its own rule, made so after filling.
+template <class R>
+void Settle(R&)
+{
+}
+
+void Settle(Order& order)
+{
+    // The date's version is the order's.
+    order.date.version = order.version;
+}
+
 template <class R>
 class RecordCopy : public ::testing::Test {};
 
@@ -407,6 +419,7 @@ TYPED_TEST(RecordCopy, EveryMemberIsCopiedAndTheCopyWorksOnItsOwnMembers)
     const Collector defaults = Collected(original);
     Filler filler;
     Tree::Fields(filler, original);
+    Settle(original);
     const Collector filled = Collected(original);
     // Nothing was left at its default: each member line differs.
     for (const std::string& line : filled.lines) {
