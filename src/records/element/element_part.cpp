@@ -36,25 +36,8 @@ ElementPart::ElementPart()
     textB8 = L"        ";
 }
 
-ElementPart::ElementPart(const ElementPart& other)
-    : Serializable(other),
-      ItCollectionImpl<std::vector<ConcreteLayer>>(&concreteLayers),
-      ItCollectionImpl<std::vector<Contour>>(nullptr),
-      ItCollectionImpl<std::vector<Cutout>>(nullptr),
-      ItCollectionImpl<std::vector<MountingPart>>(nullptr),
-      ItCollectionImpl<std::vector<Rodstock>>(nullptr),
-      ItCollectionImpl<std::vector<BracedGirder>>(nullptr),
-      ItCollectionImpl<std::vector<ExternalIron>>(nullptr),
-      ItCollectionImpl<std::vector<Layer>>(&layers)
+ElementPart::ElementPart(const ElementPart& other) : ElementPart()
 {
-    // These lists lie inside members that are made after the bases: the
-    // views are pointed at them once the members stand.
-    ItCollectionImpl<std::vector<Contour>>::container = &contourData.contours;
-    ItCollectionImpl<std::vector<Cutout>>::container = &cutoutData.cutouts;
-    ItCollectionImpl<std::vector<MountingPart>>::container = &mountingPartData.parts;
-    ItCollectionImpl<std::vector<Rodstock>>::container = &rodstockData.bars;
-    ItCollectionImpl<std::vector<BracedGirder>>::container = &bracedGirderData.girders;
-    ItCollectionImpl<std::vector<ExternalIron>>::container = &externalIronData.irons;
     *this = other;
 }
 

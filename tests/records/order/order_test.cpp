@@ -395,17 +395,13 @@ TEST(OrderRead, AnElementCountBeyondSixteenBitsEndsWithTheFile)
     // The count is a 32-bit number; the element loop must neither wrap nor
     // run on once the stream has failed.
     for (const wchar_t* count : {L"32768", L"65536", L"2147483647"}) {
-        StringArchive in(L"HEADER__\n"
-                         L"502\n"
-                         L"A1" + Blanks(6) + L"   " + Blanks(5) + L" " + Blanks(4) + L" " + Blanks(8) + L" 00 00 "
-                         + Blanks(40) + L"\n"
-                         + Blanks(20) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n"
-                         + Blanks(25) + L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + Blanks(25) + L"\n"
-                         + Blanks(25) + L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + Blanks(25) + L"\n"
-                         L"07.03.2024\n"
-                         L"0 " + std::wstring(count) + L" 000\n"
-                         L"END\n"
-                         L"END HEADER__\n");
+        // An empty order of 502 as written, with the count put in.
+        std::wstring text = Written(Sample(502));
+        const std::wstring countLine = L"\n0 00 000\n";
+        const std::size_t at = text.find(countLine);
+        ASSERT_NE(at, std::wstring::npos);
+        text.replace(at, countLine.size(), L"\n0 " + std::wstring(count) + L" 000\n");
+        StringArchive in(text);
         Order read;
         EXPECT_FALSE(read.Read(in.archive));
         EXPECT_TRUE(in.archive.fail());
