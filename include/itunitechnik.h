@@ -8,6 +8,15 @@
  * Strings are zero-terminated 16-bit code units: wchar_t on Windows,
  * char16_t (uint_least16_t in C) elsewhere. Blocks handed in are read during
  * the call only. Null pointers are a contract violation.
+ *
+ * No C++ exception and no signal of the library's own crosses into the host.
+ * When a call cannot go on (memory runs out, or a date text that setProjectData
+ * cannot read), it stops where it stands, leaves the document as far as it
+ * got, and returns the result named at the export "on a failure inside the
+ * library". Writing into a pipe whose reader has gone raises no SIGPIPE in the
+ * host: on POSIX the library blocks the signal in the calling thread around
+ * each of its writes and takes back one that its own write raised, so the
+ * host's signal handling and mask are as they were.
  */
 #ifndef ITUNITECHNIK_H
 #define ITUNITECHNIK_H
@@ -140,14 +149,34 @@ IT_LAYOUT_CHECK(offsetof(ItFreeFormSegment, angle) == 4, segment_angle);
 IT_LAYOUT_CHECK(sizeof(ItFreeFormSegment) == 8, segment_size);
 
 /* Orders and the document. */
+
+/* Opens an order with its one element; a non-zero clearDocument drops the
+ * earlier orders first. Returns 1; 0 on a failure inside the library, when
+ * the order was not added (the earlier orders are dropped all the same if
+ * clearDocument asked for it). */
 ITUNITECHNIK_API int32_t startOrder(uint16_t orderValue, int32_t elementNumberArg,
                                     const double* placement, uint16_t version,
                                     const it_char16* elementTextArg, double elementMeasureArg,
                                     bool clearDocument);
+/* Writes every order to path. Returns 1, also when the file cannot be made
+ * (a missing or read-only directory, a path that is a directory) or a write
+ * fails part way (a full disk, a pipe whose reader has gone, a FIFO that
+ * nobody reads): such faults are not reported, and what reached the file
+ * before the fault stays as written. Returns 0 when the stream is unhealthy
+ * from the start, or on a failure inside the library. The document stays as
+ * it is either way, so a second call with another path writes it whole. */
 ITUNITECHNIK_API int32_t endDocument(const it_char16* path);
 
 /* Project and element setters. */
+
+/* Fills every order's texts, project, addresses and date. The date text is
+ * read by position, dd.mm.yyyy. A date text shorter than six characters, or
+ * one whose day, month or year holds no number, stops the call at that
+ * order: the orders before it are complete, that order has its number and
+ * the three texts behind it set and keeps the rest, and the orders behind it
+ * are untouched. Nothing is returned and nothing is thrown. */
 ITUNITECHNIK_API void setProjectData(const it_char16* const* texts);
+/* These four change nothing on a failure inside the library. */
 ITUNITECHNIK_API void setSlabInfoFields(const it_char16* slabInfo1, const it_char16* slabInfo2,
                                         const it_char16* slabInfo3, const it_char16* slabInfo4);
 ITUNITECHNIK_API void setThicknesses(int32_t thickness, int32_t secondThickness);
@@ -155,16 +184,25 @@ ITUNITECHNIK_API void setDoubleWallGap(int32_t doubleWallGap);
 ITUNITECHNIK_API void addLayer(uint16_t layerKind, double thicknessMetres, double firstFactor,
                                double secondFactor, const it_char16* layerName);
 
-/* Outline adders. */
+/* Outline adders. The functions without a result add nothing on a failure
+ * inside the library. */
 ITUNITECHNIK_API void addContour(int32_t pointCount, const int32_t* points);
 ITUNITECHNIK_API void addCutout(const ItCutoutBlock* block, const int32_t* points);
+/* Returns 1 when done; 0 with no current element or an unknown kind, and 0 on
+ * a failure inside the library (girders of kind 5 added before it stay). */
 ITUNITECHNIK_API int32_t addSet(int32_t setKind, const it_char16* setName, int32_t valueCount,
                                 const int32_t* values);
 
-/* Reinforcement adders. */
+/* Reinforcement adders. The functions without a result add nothing on a
+ * failure inside the library. */
+
+/* Returns the mat's number; 0 with no current element, and 0 on a failure
+ * inside the library. */
 ITUNITECHNIK_API int32_t addSteelmat(const it_char16* name, int32_t firstDimension,
                                      int32_t secondDimension, int32_t firstFlag,
                                      int32_t secondFlag, int32_t matKind, const int32_t* position);
+/* Returns the bar's number in the last mat; 0 with no current element; -1
+ * when no mat takes the bar, and -1 on a failure inside the library. */
 ITUNITECHNIK_API int32_t addCFSRodstock(int32_t rodKind, const it_char16* designation,
                                         int32_t firstSize, int32_t secondSize, int32_t thirdSize,
                                         const int32_t* position, int32_t positionZ,
@@ -173,6 +211,8 @@ ITUNITECHNIK_API int32_t addCFSRodstock(int32_t rodKind, const it_char16* design
                                         int32_t auxFifth, int32_t flagsCode);
 ITUNITECHNIK_API void addStraightRodstock(const ItBarBlock* bar);
 ITUNITECHNIK_API void addFreeFormRodstock(const ItBarBlock* bar, const ItFreeFormSegment* segments);
+/* Returns the iron's number; 0 with no current element, and 0 on a failure
+ * inside the library. */
 ITUNITECHNIK_API int32_t addExtIron(int32_t ironCode, int32_t ironCount, double ironValue,
                                     const it_char16* ironText);
 
@@ -183,7 +223,8 @@ ITUNITECHNIK_API int32_t addExtIron(int32_t ironCode, int32_t ironCount, double 
  * library's own, when there is no current element; or one of the library's
  * own texts "ERROR MOUNPART", "ERROR RODSTOCK", "ERROR BRGIRDER",
  * "ERROR REFORCEM" and "ERROR EXTIRON_", when that record could not be
- * written. Give every result back with freeFullReinforcementString, which
+ * written, and "ERROR MEMORY" on a failure inside the library. Give every
+ * result back with freeFullReinforcementString, which
  * frees a block (CoTaskMemFree on Windows, free elsewhere) and leaves the
  * library's own texts alone; a Windows host may also free a block itself
  * with CoTaskMemFree, but then must not free the other two kinds. */

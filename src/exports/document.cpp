@@ -5,7 +5,6 @@
 #include "platform/platform.h"
 
 #include <cstring>
-#include <exception>
 #include <sstream>
 
 namespace ItUnitechnik {
@@ -62,14 +61,14 @@ void Document::WriteOrderStreams(const std::wstring& path)
 
         // Forty blanks and a terminator; the text goes in with its own
         // terminator, so a text of exactly forty bytes has none in the block.
-        // A longer text is a fault that ends the process, as a bounded copy
-        // of the C runtime does.
+        // A longer text does not fit: that order's stream is passed over, as
+        // one that cannot be opened is, and the host goes on.
+        if (text.size() > blockSize) {
+            continue;
+        }
         char area[blockSize + 1];
         std::memset(area, ' ', blockSize);
         area[blockSize] = '\0';
-        if (text.size() > blockSize) {
-            std::terminate();
-        }
         std::memcpy(area, text.c_str(), text.size() + 1);
         Platform::WriteAlternateStream(name.str(), area, blockSize);
     }

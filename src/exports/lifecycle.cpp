@@ -14,11 +14,14 @@ using ItUnitechnik::theDocument;
 
 extern "C" {
 
+// Nothing thrown inside the library reaches the host: each export ends in a
+// handler that gives the result the header names for that case.
+
 ITUNITECHNIK_API int32_t startOrder(uint16_t orderValue, int32_t elementNumberArg,
                                     const double* placement, uint16_t version,
                                     const it_char16* elementTextArg, double elementMeasureArg,
                                     bool clearDocument)
-{
+try {
     if (clearDocument) {
         theDocument.orders.clear(); // directly on the vector, no hook
     }
@@ -57,11 +60,15 @@ ITUNITECHNIK_API int32_t startOrder(uint16_t orderValue, int32_t elementNumberAr
     theDocument.orders.push_back(std::move(order));
     theDocument.Changed();
     return 1;
+} catch (...) {
+    return 0;
 }
 
 ITUNITECHNIK_API int32_t endDocument(const it_char16* path)
-{
+try {
     return theDocument.Save(ItUnitechnik::FromHost(path)) ? 1 : 0;
+} catch (...) {
+    return 0;
 }
 
 } // extern "C"

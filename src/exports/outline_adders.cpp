@@ -118,8 +118,11 @@ int32_t AddGirders(ElementPart& element, const it_char16* setName, int32_t value
 
 extern "C" {
 
+// Nothing thrown inside the library reaches the host: each export ends in a
+// handler that gives the result the header names for that case.
+
 ITUNITECHNIK_API void addContour(int32_t pointCount, const int32_t* points)
-{
+try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
         return;
@@ -127,10 +130,12 @@ ITUNITECHNIK_API void addContour(int32_t pointCount, const int32_t* points)
     Contour contour(element->version);
     AddChain(contour, pointCount, points);
     element->appendContour(std::move(contour));
+} catch (...) {
+    // Nothing to report: the call ends here.
 }
 
 ITUNITECHNIK_API void addCutout(const ItCutoutBlock* block, const int32_t* points)
-{
+try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
         return;
@@ -140,11 +145,13 @@ ITUNITECHNIK_API void addCutout(const ItCutoutBlock* block, const int32_t* point
     cutout.cutoutName = FromHost(block->cutoutName);
     AddChain(cutout, block->pointCount, points);
     element->appendCutout(std::move(cutout));
+} catch (...) {
+    // Nothing to report: the call ends here.
 }
 
 ITUNITECHNIK_API int32_t addSet(int32_t setKind, const it_char16* setName, int32_t valueCount,
                                 const int32_t* values)
-{
+try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
         return 0;
@@ -157,6 +164,8 @@ ITUNITECHNIK_API int32_t addSet(int32_t setKind, const it_char16* setName, int32
     default:
         return 0;
     }
+} catch (...) {
+    return 0;
 }
 
 } // extern "C"

@@ -35,10 +35,13 @@ void FillCommonCells(Rodstock& bar, const ItBarBlock& block)
 
 extern "C" {
 
+// Nothing thrown inside the library reaches the host: each export ends in a
+// handler that gives the result the header names for that case.
+
 ITUNITECHNIK_API int32_t addSteelmat(const it_char16* name, int32_t firstDimension,
                                      int32_t secondDimension, int32_t firstFlag,
                                      int32_t secondFlag, int32_t matKind, const int32_t* position)
-{
+try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
         return 0;
@@ -49,6 +52,8 @@ ITUNITECHNIK_API int32_t addSteelmat(const it_char16* name, int32_t firstDimensi
         FromHost(name), firstDimension, secondDimension, firstFlag, secondFlag, matKind, position);
     element->updateExtents();
     return number;
+} catch (...) {
+    return 0;
 }
 
 ITUNITECHNIK_API int32_t addCFSRodstock(int32_t rodKind, const it_char16* designation,
@@ -57,7 +62,7 @@ ITUNITECHNIK_API int32_t addCFSRodstock(int32_t rodKind, const it_char16* design
                                         int32_t rotation, const it_char16* extraDesignation,
                                         int32_t mountFlag, int32_t auxFirst, int32_t auxFourth,
                                         int32_t auxFifth, int32_t flagsCode)
-{
+try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
         return 0;
@@ -95,10 +100,12 @@ ITUNITECHNIK_API int32_t addCFSRodstock(int32_t rodKind, const it_char16* design
     }
     element->updateExtents();
     return result;
+} catch (...) {
+    return -1;
 }
 
 ITUNITECHNIK_API void addStraightRodstock(const ItBarBlock* block)
-{
+try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
         return;
@@ -107,10 +114,12 @@ ITUNITECHNIK_API void addStraightRodstock(const ItBarBlock* block)
     Rodstock bar(element->version);
     FillCommonCells(bar, *block);
     element->appendRodstock(std::move(bar));
+} catch (...) {
+    // Nothing to report: the call ends here.
 }
 
 ITUNITECHNIK_API void addFreeFormRodstock(const ItBarBlock* block, const ItFreeFormSegment* segments)
-{
+try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
         return;
@@ -135,11 +144,13 @@ ITUNITECHNIK_API void addFreeFormRodstock(const ItBarBlock* block, const ItFreeF
         bar.freeForm.buildFromSegments(entries);
     }
     element->appendRodstock(std::move(bar));
+} catch (...) {
+    // Nothing to report: the call ends here.
 }
 
 ITUNITECHNIK_API int32_t addExtIron(int32_t ironCode, int32_t ironCount, double ironValue,
                                     const it_char16* ironText)
-{
+try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
         return 0;
@@ -152,6 +163,8 @@ ITUNITECHNIK_API int32_t addExtIron(int32_t ironCode, int32_t ironCount, double 
     // Straight into the list: no hook, and the extents are left as they are.
     element->externalIronData.appendIron(iron);
     return iron.ironNumber;
+} catch (...) {
+    return 0;
 }
 
 } // extern "C"

@@ -14,16 +14,20 @@ using ItUnitechnik::theDocument;
 
 extern "C" {
 
+// Nothing thrown inside the library reaches the host: each export ends in a
+// handler that gives the result the header names for that case.
+
 ITUNITECHNIK_API void setProjectData(const it_char16* const* texts)
-{
+try {
     for (Order& order : theDocument.orders) {
         const std::wstring number = FromHost(texts[IT_PROJECT_ORDER_NUMBER]);
         order.orderNumber = number.empty() ? std::wstring(L"12345678") : number;
         order.orderText5 = FromHost(texts[IT_PROJECT_ORDER_TEXT5]);
         order.orderText4 = FromHost(texts[IT_PROJECT_ORDER_TEXT4]);
         order.orderText8 = FromHost(texts[IT_PROJECT_ORDER_TEXT8]);
-        // May throw for a date that is too short or has no number in a part;
-        // the order then keeps its other fields as they were.
+        // Throws for a date that is too short or has no number in a part: the
+        // call ends there, this order keeps its other fields as they were,
+        // the orders before it are complete and those behind it untouched.
         order.date = Date(FromHost(texts[IT_PROJECT_DATE]), order.version);
         order.orderText40 = FromHost(texts[IT_PROJECT_ORDER_TEXT40]);
         order.orderText2 = FromHost(texts[IT_PROJECT_ORDER_TEXT2]);
@@ -40,11 +44,13 @@ ITUNITECHNIK_API void setProjectData(const it_char16* const* texts)
         order.secondAddress.addressText3 = FromHost(texts[IT_PROJECT_SECOND_ADDRESS1 + 2]);
         order.secondAddress.addressText4 = FromHost(texts[IT_PROJECT_SECOND_ADDRESS1 + 3]);
     }
+} catch (...) {
+    // Nothing to report: the call ends here.
 }
 
 ITUNITECHNIK_API void setSlabInfoFields(const it_char16* slabInfo1, const it_char16* slabInfo2,
                                         const it_char16* slabInfo3, const it_char16* slabInfo4)
-{
+try {
     // Guarded like every other element export, so a call before startOrder
     // does nothing.
     ElementPart* element = theDocument.CurrentElement();
@@ -55,30 +61,36 @@ ITUNITECHNIK_API void setSlabInfoFields(const it_char16* slabInfo1, const it_cha
     element->slabInfo2 = FromHost(slabInfo2);
     element->slabInfo3 = FromHost(slabInfo3);
     element->slabInfo4 = FromHost(slabInfo4);
+} catch (...) {
+    // Nothing to report: the call ends here.
 }
 
 ITUNITECHNIK_API void setThicknesses(int32_t thickness, int32_t secondThickness)
-{
+try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
         return;
     }
     element->thickness = thickness;
     element->secondThickness = secondThickness;
+} catch (...) {
+    // Nothing to report: the call ends here.
 }
 
 ITUNITECHNIK_API void setDoubleWallGap(int32_t doubleWallGap)
-{
+try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
         return;
     }
     element->doubleWallGap = doubleWallGap;
+} catch (...) {
+    // Nothing to report: the call ends here.
 }
 
 ITUNITECHNIK_API void addLayer(uint16_t layerKind, double thicknessMetres, double firstFactor,
                                double secondFactor, const it_char16* layerName)
-{
+try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
         return;
@@ -96,6 +108,8 @@ ITUNITECHNIK_API void addLayer(uint16_t layerKind, double thicknessMetres, doubl
     const int32_t total = ItUnitechnik::WrappingAdd(element->thickness, layer.layerThickness);
     element->thickness = total;
     element->secondThickness = total;
+} catch (...) {
+    // Nothing to report: the call ends here.
 }
 
 } // extern "C"

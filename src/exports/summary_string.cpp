@@ -7,7 +7,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <exception>
+#include <new>
 #include <streambuf>
 
 using ItUnitechnik::Archive;
@@ -24,9 +24,12 @@ const it_char16 kErrorRodstocks[] = {'E', 'R', 'R', 'O', 'R', ' ', 'R', 'O', 'D'
 const it_char16 kErrorGirders[] = {'E', 'R', 'R', 'O', 'R', ' ', 'B', 'R', 'G', 'I', 'R', 'D', 'E', 'R', 0};
 const it_char16 kErrorReinforcement[] = {'E', 'R', 'R', 'O', 'R', ' ', 'R', 'E', 'F', 'O', 'R', 'C', 'E', 'M', 0};
 const it_char16 kErrorExternalIrons[] = {'E', 'R', 'R', 'O', 'R', ' ', 'E', 'X', 'T', 'I', 'R', 'O', 'N', '_', 0};
+// The text could not be made: memory ran out on the way.
+const it_char16 kErrorMemory[] = {'E', 'R', 'R', 'O', 'R', ' ', 'M', 'E', 'M', 'O', 'R', 'Y', 0};
 
 const it_char16* const kConstants[] = {kEmpty, kErrorMountingParts, kErrorRodstocks,
-                                       kErrorGirders, kErrorReinforcement, kErrorExternalIrons};
+                                       kErrorGirders, kErrorReinforcement, kErrorExternalIrons,
+                                       kErrorMemory};
 
 // The host's signature hands out a writable pointer; a constant stays one.
 it_char16* AsResult(const it_char16* constant)
@@ -69,9 +72,8 @@ public:
     {
         block_ = static_cast<it_char16*>(ItUnitechnik::Platform::AllocateHostBlock(sizeof(it_char16) * (count + 1)));
         if (block_ == nullptr) {
-            // There is no result that could say so: the process ends, as a
-            // bounded copy into no memory would end it.
-            std::terminate();
+            // The export's handler gives the host "ERROR MEMORY".
+            throw std::bad_alloc();
         }
         setp(area_, area_ + areaSize);
     }
@@ -155,8 +157,11 @@ const it_char16* WriteSummary(ElementPart& element, std::basic_streambuf<wchar_t
 
 extern "C" {
 
+// Nothing thrown inside the library reaches the host: each export ends in a
+// handler that gives the result the header names for that case.
+
 ITUNITECHNIK_API it_char16* getFullReinforcementString(void)
-{
+try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
         return AsResult(kEmpty);
@@ -170,10 +175,12 @@ ITUNITECHNIK_API it_char16* getFullReinforcementString(void)
         return AsResult(error);
     }
     return block.Take();
+} catch (...) {
+    return AsResult(kErrorMemory);
 }
 
 ITUNITECHNIK_API void freeFullReinforcementString(it_char16* text)
-{
+try {
     if (text == nullptr) {
         return;
     }
@@ -183,6 +190,8 @@ ITUNITECHNIK_API void freeFullReinforcementString(it_char16* text)
         }
     }
     ItUnitechnik::Platform::FreeHostBlock(text);
+} catch (...) {
+    // Nothing to report: the call ends here.
 }
 
 } // extern "C"

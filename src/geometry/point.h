@@ -28,7 +28,7 @@ std::int32_t TruncateToInt32(double value);
 
 class Vector2d;
 
-class Point2d : public Serializable {
+class Point2d final : public Serializable {
 public:
     Point2d() = default;
     Point2d(std::int32_t xValue, std::int32_t yValue) : x(xValue), y(yValue) {}

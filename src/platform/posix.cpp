@@ -3,17 +3,79 @@
 #include "platform/platform.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
+#include <ctime>
 #include <fcntl.h>
+#include <pthread.h>
 #include <unistd.h>
 
 namespace ItUnitechnik::Platform {
+namespace {
+
+// A write into a pipe whose reader has gone raises SIGPIPE, which ends a host
+// that has not set the signal aside. Around each of the library's writes the
+// signal is blocked in the calling thread; one that the write raised is taken
+// back before the old mask returns. The host's disposition is never touched,
+// and its mask is as it was when the write ends.
+class QuietPipe {
+public:
+    QuietPipe()
+    {
+        sigemptyset(&pipeOnly_);
+        sigaddset(&pipeOnly_, SIGPIPE);
+        sigset_t pending;
+        sigemptyset(&pending);
+        wasPending_ = sigpending(&pending) == 0 && sigismember(&pending, SIGPIPE) == 1;
+        blocked_ = pthread_sigmask(SIG_BLOCK, &pipeOnly_, &previous_) == 0;
+    }
+    QuietPipe(const QuietPipe&) = delete;
+    QuietPipe& operator=(const QuietPipe&) = delete;
+    ~QuietPipe()
+    {
+        if (!blocked_) {
+            return;
+        }
+        if (broken_ && !wasPending_) {
+            const timespec none{0, 0};
+            while (sigtimedwait(&pipeOnly_, nullptr, &none) < 0 && errno == EINTR) {
+            }
+        }
+        pthread_sigmask(SIG_SETMASK, &previous_, nullptr);
+    }
+
+    // The write failed with EPIPE: a SIGPIPE of its own is pending.
+    void Broken() { broken_ = true; }
+
+private:
+    sigset_t pipeOnly_{};
+    sigset_t previous_{};
+    bool wasPending_ = false;
+    bool blocked_ = false;
+    bool broken_ = false;
+};
+
+// Opens for output without waiting: a FIFO that nobody reads fails at once
+// instead of holding the host, and the descriptor then blocks as usual.
+int OpenForOutput(const char* name, int flags)
+{
+    const int descriptor = ::open(name, flags | O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0666);
+    if (descriptor >= 0) {
+        const int status = ::fcntl(descriptor, F_GETFL);
+        if (status >= 0) {
+            ::fcntl(descriptor, F_SETFL, status & ~O_NONBLOCK);
+        }
+    }
+    return descriptor;
+}
+
+} // namespace
 
 OutputFile::OutputFile(const std::wstring& path)
 {
     const std::string name = ToUtf8(path);
     if (!name.empty()) {
-        descriptor_ = ::open(name.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+        descriptor_ = OpenForOutput(name.c_str(), O_TRUNC);
     }
 }
 
@@ -47,11 +109,15 @@ bool OutputFile::Write(const char* bytes, std::size_t count)
     if (descriptor_ < 0) {
         return false;
     }
+    QuietPipe quiet;
     while (count > 0) {
         const ssize_t written = ::write(descriptor_, bytes, count);
         if (written < 0) {
             if (errno == EINTR) {
                 continue;
+            }
+            if (errno == EPIPE) {
+                quiet.Broken();
             }
             return false;
         }
@@ -73,12 +139,16 @@ void WriteAlternateStream(const std::string& streamNameUtf8, const char* bytes, 
 {
     // Opened as Windows opens a stream with OPEN_ALWAYS: created when missing,
     // never cut, written from its first byte.
-    const int descriptor = ::open(streamNameUtf8.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
+    const int descriptor = OpenForOutput(streamNameUtf8.c_str(), 0);
     if (descriptor < 0) {
         return;
     }
-    const ssize_t ignored = ::write(descriptor, bytes, count);
-    static_cast<void>(ignored);
+    {
+        QuietPipe quiet;
+        if (::write(descriptor, bytes, count) < 0 && errno == EPIPE) {
+            quiet.Broken();
+        }
+    }
     ::close(descriptor);
 }
 

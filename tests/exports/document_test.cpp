@@ -117,6 +117,17 @@ TEST_F(DocumentTest, AFortyByteTextHasNoTerminator)
     EXPECT_EQ(ReadFileBytes(path + ":order0"), forty);
 }
 
+TEST_F(DocumentTest, ATextLongerThanFortyBytesWritesNoStreamAndTheHostGoesOn)
+{
+    // Forty characters, but the two of them above U+007F take two bytes each.
+    AddOrder(600, L"\u00E9\u00E9" + std::wstring(38, L'x'));
+    AddOrder(600, L"next");
+    const std::string path = dir.File("a.txt");
+    EXPECT_TRUE(theDocument.Save(Wide(path)));
+    EXPECT_FALSE(FileExists(path + ":order0"));
+    EXPECT_EQ(ReadFileBytes(path + ":order1"), std::string("next") + '\0' + std::string(35, ' '));
+}
+
 TEST_F(DocumentTest, TheStreamTextIsUtf8)
 {
     AddOrder(600, L"\u00E9\u20AC");

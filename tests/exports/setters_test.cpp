@@ -99,13 +99,12 @@ TEST_F(SettersTest, WithoutOrdersNothingHappens)
     EXPECT_TRUE(theDocument.orders.empty());
 }
 
+// What the date text throws where the order's date is made from it.
 template <class Exception>
 std::string Thrown(const std::u16string& date)
 {
-    ProjectTexts texts;
-    texts.texts[IT_PROJECT_DATE] = date;
     try {
-        setProjectData(texts.Pointers().data());
+        Date made(std::wstring(date.begin(), date.end()), 502);
     } catch (const Exception& e) {
         return e.what();
     } catch (...) {
@@ -114,7 +113,7 @@ std::string Thrown(const std::u16string& date)
     return "nothing";
 }
 
-TEST_F(SettersTest, BadDatesThrowAndLeaveTheOrdersPartlyFilled)
+TEST_F(SettersTest, BadDatesThrowNothingOutOfTheExportAndLeaveTheOrdersPartlyFilled)
 {
     Start(502);
     Start(502, false);
@@ -123,25 +122,29 @@ TEST_F(SettersTest, BadDatesThrowAndLeaveTheOrdersPartlyFilled)
     const ProjectTexts good;
     setProjectData(good.Pointers().data());
 
+    // The date itself refuses these texts.
     EXPECT_EQ(Thrown<std::invalid_argument>(u"1.2.2024"), "invalid stoi argument");
     EXPECT_EQ(Thrown<std::invalid_argument>(u"  .  .    "), "invalid stoi argument");
+    EXPECT_EQ(Thrown<std::invalid_argument>(u"ab.cd.efgh"), "invalid stoi argument");
     EXPECT_EQ(Thrown<std::out_of_range>(u"1.2."), "invalid string position");
     EXPECT_EQ(Thrown<std::out_of_range>(u"12"), "invalid string position");
 
-    // The failing order has its number and first three texts set again, the
-    // rest as before; with the first order failing, the later ones are
-    // untouched.
-    ProjectTexts changed;
-    changed.texts[IT_PROJECT_ORDER_NUMBER] = u"NEW";
-    changed.texts[IT_PROJECT_ORDER_TEXT5] = u"NEW5";
-    changed.texts[IT_PROJECT_TEXT1] = u"NEWPROJECT";
-    changed.texts[IT_PROJECT_DATE] = u"1.2.2024";
-    EXPECT_THROW(setProjectData(changed.Pointers().data()), std::invalid_argument);
-    EXPECT_EQ(theDocument.orders[0].orderNumber, L"NEW");
-    EXPECT_EQ(theDocument.orders[0].orderText5, L"NEW5");
-    EXPECT_EQ(theDocument.orders[0].project.projectText1, L"Te");
-    EXPECT_EQ(theDocument.orders[0].date.year, 2024);
-    EXPECT_EQ(theDocument.orders[1].orderNumber, L"ORD-9");
+    // Through the export nothing is thrown. The failing order has its number
+    // and first three texts set again, the rest as before; with the first
+    // order failing, the later ones are untouched.
+    for (const char16_t* date : {u"1.2.2024", u"  .  .    ", u"ab.cd.efgh", u"1.2.", u"12", u""}) {
+        ProjectTexts changed;
+        changed.texts[IT_PROJECT_ORDER_NUMBER] = u"NEW";
+        changed.texts[IT_PROJECT_ORDER_TEXT5] = u"NEW5";
+        changed.texts[IT_PROJECT_TEXT1] = u"NEWPROJECT";
+        changed.texts[IT_PROJECT_DATE] = date;
+        EXPECT_NO_THROW(setProjectData(changed.Pointers().data()));
+        EXPECT_EQ(theDocument.orders[0].orderNumber, L"NEW");
+        EXPECT_EQ(theDocument.orders[0].orderText5, L"NEW5");
+        EXPECT_EQ(theDocument.orders[0].project.projectText1, L"Te");
+        EXPECT_EQ(theDocument.orders[0].date.year, 2024);
+        EXPECT_EQ(theDocument.orders[1].orderNumber, L"ORD-9");
+    }
 }
 
 TEST_F(SettersTest, DatesByPosition)

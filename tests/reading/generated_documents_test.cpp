@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <deque>
 #include <random>
 #include <string>
 #include <vector>
@@ -59,7 +60,8 @@ public:
 
 private:
     std::mt19937 random_;
-    std::vector<std::u16string> texts_{};
+    // A deque: a text handed out keeps its place while more are added.
+    std::deque<std::u16string> texts_{};
 };
 
 uint16_t Version(Generator& g, int index)
@@ -123,7 +125,9 @@ void Outline(Generator& g)
     }
     for (int n = g.Between(0, 2); n > 0; --n) {
         std::vector<int32_t> values;
-        for (int i = 0; i < 10 * g.Between(1, 3); ++i) {
+        // Whole groups of ten: the export reads ten for every group begun.
+        const int count = 10 * g.Between(1, 3);
+        for (int i = 0; i < count; ++i) {
             values.push_back(g.Chance(20) ? g.Between(-99999, 0) : g.Between(0, 999999));
         }
         addSet(5, g.Host(g.Text(12)), static_cast<int32_t>(values.size()), values.data());
@@ -160,7 +164,8 @@ void Reinforcement(Generator& g)
                     g.Between(0, 2), g.Between(-70000, 70000), position);
         for (int bars = g.Between(0, 3); bars > 0; --bars) {
             static const int codes[] = {0, 1, 10, 11, 20, 100, 110, 120, 200, 999};
-            const int32_t at[3] = {g.Coordinate(), g.Coordinate(), g.Between(-999, 999)};
+            // The third number is the bar's sixth value: the export reads three.
+            const int32_t at[3] = {g.Coordinate(), g.Coordinate(), 0};
             addCFSRodstock(g.Between(0, 12), g.Host(g.Text(12)), g.Between(0, 99999), g.Between(0, 999),
                            g.Between(-999, 99999), at, g.Between(-999, 999), g.Between(-999, 999),
                            g.Host(g.Text(12)), g.Between(0, 1), g.Between(0, 999), g.Between(0, 99999),

@@ -9,7 +9,7 @@ namespace ItUnitechnik {
 
 // One line of the element's list of concrete layers. It writes no line end:
 // the element does that.
-class ConcreteLayer : public Serializable {
+class ConcreteLayer final : public Serializable {
 public:
     // The version of the element the layer belongs to.
     explicit ConcreteLayer(std::int32_t elementVersion = 502) : version(elementVersion) {}

@@ -489,7 +489,11 @@ bool ElementPart::ReadOutlineAndReinforcement(Archive& ar)
 {
     // The outline records. From 600 a missing list of openings or of parts
     // is passed over: seek back, make the stream whole again, go on.
-    if (!contourData.Read(ar) || !Healthy(ar)) {
+    // Judged by the stream and `valid`, as every nested read is: a list of
+    // contours whose closing token is wrong fails its own Read but leaves
+    // both alone, and the element goes on.
+    contourData.Read(ar);
+    if (!Healthy(ar)) {
         return false;
     }
     if (!ReadOptional(ar, cutoutData) || !ReadOptional(ar, mountingPartData)) {

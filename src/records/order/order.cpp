@@ -226,17 +226,10 @@ bool Order::Read(Archive& ar)
         return false;
     }
 
-    // An element that fails is not kept and does not stop the loop. The
-    // counter is 16 bits wide, as the format's element numbers are.
-    if (elementCount > 0) {
-        for (std::int16_t i = 0; i < elementCount; ++i) {
-            ElementPart element;
-            element.Read(ar);
-            if (Healthy(ar)) {
-                elementParts.push_back(element);
-            }
-        }
-    }
+    // An element that fails is not kept and does not stop the loop; once the
+    // stream itself has failed no later element can be read, so a count far
+    // beyond what the file holds ends there.
+    ReadElements(ar, elementCount, [] { return ElementPart(); }, elementParts);
 
     if (!ExpectLine(ar, L"END HEADER__")) {
         return false;

@@ -10,7 +10,7 @@ namespace ItUnitechnik {
 
 // One anchor bar of a braced girder: a line of four numbers that ends in a
 // blank.
-class AnchorBar : public Serializable {
+class AnchorBar final : public Serializable {
 public:
     AnchorBar() = default;
 

@@ -38,8 +38,10 @@ bool BendingFormPart::Read(Archive& ar)
 {
     std::int32_t count = 0;
     ar >> partNumber >> count;
-    for (std::int32_t i = 0; i < count; ++i) {
-        // Appended whatever the stream says: a short line leaves 0, 0 behind.
+    // Appended whatever the stream says: a short line leaves a segment of
+    // 0, 0 behind. The loop ends once the stream has failed, so a count from
+    // the file takes no more than the file holds.
+    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
         BendingFormSegment segment(0, 0);
         segment.Read(ar);
         segments.push_back(segment);

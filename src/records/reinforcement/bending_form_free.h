@@ -10,7 +10,7 @@
 namespace ItUnitechnik {
 
 // One segment of a free bending form: a length and the angle that follows it.
-class BendingFormSegment : public Serializable {
+class BendingFormSegment final : public Serializable {
 public:
     explicit BendingFormSegment(std::int32_t segmentLength = 0, std::int32_t segmentAngle = 0)
         : length(segmentLength), angle(segmentAngle)

@@ -10,7 +10,7 @@
 namespace ItUnitechnik {
 
 // One external iron: a line of numbers and a text, the same at every version.
-class ExternalIron : public Serializable {
+class ExternalIron final : public Serializable {
 public:
     ExternalIron() = default;
 

@@ -57,9 +57,10 @@ bool SpacerData::Read(Archive& ar)
 {
     std::int32_t count = 0;
     ar >> spacerCode >> count;
-    for (std::int32_t i = 0; i < count; ++i) {
-        // Kept whatever the stream says: a broken file leaves zeros or a
-        // partly read position behind.
+    // Kept whatever the stream says: a broken file leaves a partly read
+    // position behind. The count is a number from the file: the loop ends
+    // once the stream has failed, so no count takes more than the file holds.
+    for (std::int32_t i = 0; i < count && !ar.fail(); ++i) {
         SpacerPosition position;
         position.Read(ar);
         positions.push_back(position);

@@ -9,7 +9,7 @@
 namespace ItUnitechnik {
 
 // One spacer position of a bar: ten five-digit numbers on one line.
-class SpacerPosition : public Serializable {
+class SpacerPosition final : public Serializable {
 public:
     SpacerPosition() = default;
 

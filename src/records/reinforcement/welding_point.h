@@ -23,7 +23,7 @@ public:
 
 // One welding point: always eight intersections on one line, also when fewer
 // are in use.
-class WeldingPoint : public Serializable {
+class WeldingPoint final : public Serializable {
 public:
     WeldingPoint() = default;
 

@@ -252,7 +252,10 @@ TEST(ElementPartCopy, CopiesWorkOnTheirOwnLayers)
     assigned.Add(ConcreteLayer());
     EXPECT_EQ(copy.concreteLayers.size(), 2u);
     EXPECT_EQ(assigned.concreteLayers.size(), 3u);
-    assigned = assigned;
+    {
+        const auto& same = assigned; // assigned to itself
+        assigned = same;
+    }
     EXPECT_EQ(assigned.concreteLayers.size(), 3u);
     EXPECT_EQ(assigned.codeA2, L"00");
 }
@@ -744,6 +747,29 @@ TEST(ElementPartRead, From600MissingOutlineListsArePassedOver)
     StringArchive oldIn(oldText);
     ElementPart oldRead;
     EXPECT_FALSE(oldRead.Read(oldIn.archive));
+}
+
+TEST(ElementPartRead, AContourListWithAWrongClosingTokenIsTakenAsRead)
+{
+    // The list's own Read fails, but it leaves the stream and `valid` as
+    // they were, and only they decide for the element.
+    for (const std::int16_t version : {std::int16_t{502}, std::int16_t{600}}) {
+        ElementPart element = AtVersion(version);
+        element.elementNumberText = L"1";
+        element.contourData.Add(Contour(502));
+        StringArchive out;
+        ASSERT_TRUE(element.Write(out.archive));
+        std::wstring text = out.Text();
+        const std::wstring closing = L"END\nCUTOUT__";
+        const std::size_t at = text.find(closing);
+        ASSERT_NE(at, std::wstring::npos);
+        text.replace(at, 3, L"EXT");
+        StringArchive in(text);
+        ElementPart read;
+        EXPECT_TRUE(read.Read(in.archive)) << version;
+        EXPECT_TRUE(in.archive.valid);
+        EXPECT_EQ(read.contourData.contours.size(), 1u);
+    }
 }
 
 } // namespace

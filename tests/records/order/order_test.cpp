@@ -190,7 +190,10 @@ TEST(OrderWrite, ACopyKeepsTheDateVersionEqual)
     Order assigned;
     assigned = order;
     EXPECT_EQ(assigned.date.version, 600);
-    assigned = assigned;
+    {
+        const auto& same = assigned; // assigned to itself
+        assigned = same;
+    }
     EXPECT_EQ(assigned.orderNumber, L"ORD-1");
     EXPECT_EQ(Order().date.version, 502);
 }
@@ -385,6 +388,25 @@ TEST(OrderRead, AnElementCountThatIsNoNumberFailsTheStream)
     EXPECT_TRUE(in.archive.fail());
     EXPECT_FALSE(in.archive.valid);
     EXPECT_TRUE(read.elementParts.empty());
+}
+
+TEST(OrderRead, AnElementCountBeyondSixteenBitsEndsWithTheFile)
+{
+    // The count is a 32-bit number; the element loop must neither wrap nor
+    // run on once the stream has failed.
+    for (const wchar_t* count : {L"32768", L"65536", L"2147483647"}) {
+        // An empty order of 502 as written, with the count put in.
+        std::wstring text = Written(Sample(502));
+        const std::wstring countLine = L"\n0 00 000\n";
+        const std::size_t at = text.find(countLine);
+        ASSERT_NE(at, std::wstring::npos);
+        text.replace(at, countLine.size(), L"\n0 " + std::wstring(count) + L" 000\n");
+        StringArchive in(text);
+        Order read;
+        EXPECT_FALSE(read.Read(in.archive));
+        EXPECT_TRUE(in.archive.fail());
+        EXPECT_TRUE(read.elementParts.empty());
+    }
 }
 
 } // namespace

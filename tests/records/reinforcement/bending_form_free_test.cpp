@@ -78,18 +78,24 @@ TEST(BendingFormPart, ReadsItsSegments)
     EXPECT_EQ(part.segments[1].angle, -45);
 }
 
-TEST(BendingFormPart, ShortLineLeavesZeroSegmentsBehind)
+TEST(BendingFormPart, ShortLineLeavesAZeroSegmentBehindAndStopsThere)
 {
     StringArchive s(L"01 03 00010 +001");
     BendingFormPart part;
     EXPECT_FALSE(part.Read(s.archive));
-    ASSERT_EQ(part.segments.size(), 3u);
+    ASSERT_EQ(part.segments.size(), 2u);
     EXPECT_EQ(part.segments[0].length, 10);
     EXPECT_EQ(part.segments[0].angle, 1);
     EXPECT_EQ(part.segments[1].length, 0);
     EXPECT_EQ(part.segments[1].angle, 0);
-    EXPECT_EQ(part.segments[2].length, 0);
-    EXPECT_EQ(part.segments[2].angle, 0);
+}
+
+TEST(BendingFormPart, AHugeCountTakesNoMoreThanTheFileHolds)
+{
+    StringArchive s(L"01 2147483647 00010 +001\n");
+    BendingFormPart part;
+    EXPECT_FALSE(part.Read(s.archive));
+    EXPECT_EQ(part.segments.size(), 2u);
 }
 
 TEST(BendingFormPart, CopyIsDeepAndViewsItsOwnSegments)

@@ -70,17 +70,27 @@ TEST(SpacerData, ReadsBack)
     EXPECT_EQ(data.positions[1].value2, 0);
 }
 
-TEST(SpacerData, BrokenFileKeepsPartlyReadPositions)
+TEST(SpacerData, BrokenFileKeepsThePartlyReadPositionAndStopsThere)
 {
     StringArchive s(L"005 002\n"
                     L"00001 00002 XXXXX\n");
     SpacerData data;
     EXPECT_FALSE(data.Read(s.archive));
     EXPECT_EQ(data.spacerCode, 5);
-    ASSERT_EQ(data.positions.size(), 2u);
+    ASSERT_EQ(data.positions.size(), 1u);
     EXPECT_EQ(data.positions[0].value1, 1);
     EXPECT_EQ(data.positions[0].value2, 2);
     EXPECT_EQ(data.positions[0].value3, 0);
+}
+
+TEST(SpacerData, AHugeCountTakesNoMoreThanTheFileHolds)
+{
+    StringArchive s(L"005 2147483647\n"
+                    L"00001 00002 00003 00004 00005 00006 00007 00008 00009 00010\n");
+    SpacerData data;
+    EXPECT_FALSE(data.Read(s.archive));
+    ASSERT_EQ(data.positions.size(), 2u);
+    EXPECT_EQ(data.positions[0].value10, 10);
     EXPECT_EQ(data.positions[1].value1, 0);
 }
 

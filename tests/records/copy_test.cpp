@@ -1,0 +1,454 @@
+// Every copy of every record: a record with each member set to a value of its
+// own, none of them a default, is copied and assigned, and the copy holds
+// every member; a curve of an outline piece is a curve of its own in the
+// copy; and each collection base of the copy works on the copy's own member.
+// The members are those of the table of every record's members.
+#include "geometry/arc.h"
+#include "geometry/circle.h"
+#include "geometry/edge.h"
+#include "geometry/geo_data.h"
+#include "geometry/line_segment.h"
+#include "geometry/polygon.h"
+#include "records/element/element_part.h"
+#include "records/order/order.h"
+#include "unitechnik/tree/record_fields.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <set>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+// A record that no other record holds, and so the table leaves out.
+namespace ItUnitechnik::Tree {
+
+template <class V>
+void Fields(V& v, Vector3d& r)
+{
+    v.Field("x", r.x);
+    v.Field("y", r.y);
+    v.Field("z", r.z);
+}
+
+} // namespace ItUnitechnik::Tree
+
+namespace ItUnitechnik {
+namespace {
+
+template <class R>
+R Make()
+{
+    if constexpr (std::is_constructible_v<R, std::int32_t> && !std::is_default_constructible_v<R>) {
+        return R(502);
+    } else {
+        return R();
+    }
+}
+
+// Gives every member a value of its own: numbers count up from 101, texts and
+// characters follow the count, booleans are turned from their default, lists
+// get two elements, and an outline piece gets a curve whose class follows
+// the count.
+class Filler {
+public:
+    template <class T>
+    void Field(const char*, T& value)
+    {
+        const int n = next_++;
+        if constexpr (std::is_same_v<T, bool>) {
+            value = !value;
+        } else if constexpr (std::is_same_v<T, wchar_t>) {
+            value = static_cast<wchar_t>(L'A' + n % 26);
+        } else if constexpr (std::is_same_v<T, std::wstring>) {
+            value = L"t" + std::to_wstring(n);
+        } else if constexpr (std::is_floating_point_v<T>) {
+            value = n + 0.5;
+        } else {
+            value = static_cast<T>(n);
+        }
+    }
+
+    template <class R>
+    void Record(const char*, R& record)
+    {
+        Tree::Fields(*this, record);
+    }
+
+    template <class R, class MakeElement>
+    void Records(const char*, std::vector<R>& records, MakeElement make)
+    {
+        for (int i = 0; i < 2; ++i) {
+            R element = make();
+            Tree::Fields(*this, element);
+            records.push_back(element);
+        }
+    }
+
+    template <class A>
+    void FixedRecords(const char*, A& records)
+    {
+        for (auto& record : records) {
+            Tree::Fields(*this, record);
+        }
+    }
+
+    void Points(const char* name, std::vector<Point2d>& points)
+    {
+        Records(name, points, [] { return Point2d(); });
+    }
+
+    void Numbers(const char*, std::vector<std::int32_t>& numbers)
+    {
+        numbers = {next_, next_ + 1};
+        next_ += 2;
+    }
+
+    void Curve(const char*, GeoData& element)
+    {
+        std::unique_ptr<ItUnitechnik::Curve> curve;
+        switch (next_ % 4) {
+        case 0:
+            curve = Filled(std::make_unique<Arc>(502));
+            break;
+        case 1:
+            curve = Filled(std::make_unique<Circle>(502));
+            break;
+        case 2:
+            curve = Filled(std::make_unique<LineSegment>(502));
+            break;
+        default:
+            curve = Filled(std::make_unique<Polygon>(502));
+            break;
+        }
+        element = GeoData(element.version, element.elementKind, std::move(curve));
+    }
+
+private:
+    template <class C>
+    std::unique_ptr<C> Filled(std::unique_ptr<C> curve)
+    {
+        Tree::Fields(*this, *curve);
+        return curve;
+    }
+
+    int next_ = 101;
+};
+
+// Every member as a line of its path and value, and every curve's address.
+class Collector {
+public:
+    template <class T>
+    void Field(const char* name, const T& value)
+    {
+        std::string text;
+        if constexpr (std::is_same_v<T, std::wstring>) {
+            text = std::string(value.begin(), value.end());
+        } else if constexpr (std::is_same_v<T, wchar_t>) {
+            text = std::to_string(static_cast<int>(value));
+        } else {
+            text = std::to_string(value);
+        }
+        lines.push_back(path_ + name + "=" + text);
+    }
+
+    template <class R>
+    void Record(const char* name, R& record)
+    {
+        Nested(name, record);
+    }
+
+    template <class R, class MakeElement>
+    void Records(const char* name, std::vector<R>& records, MakeElement)
+    {
+        lines.push_back(path_ + name + ".size=" + std::to_string(records.size()));
+        for (std::size_t i = 0; i < records.size(); ++i) {
+            Nested(std::string(name) + "[" + std::to_string(i) + "]", records[i]);
+        }
+    }
+
+    template <class A>
+    void FixedRecords(const char* name, A& records)
+    {
+        for (std::size_t i = 0; i < records.size(); ++i) {
+            Nested(std::string(name) + "[" + std::to_string(i) + "]", records[i]);
+        }
+    }
+
+    void Points(const char* name, std::vector<Point2d>& points)
+    {
+        Records(name, points, [] { return Point2d(); });
+    }
+
+    void Numbers(const char* name, std::vector<std::int32_t>& numbers)
+    {
+        for (std::size_t i = 0; i < numbers.size(); ++i) {
+            lines.push_back(path_ + name + "[" + std::to_string(i) + "]=" + std::to_string(numbers[i]));
+        }
+    }
+
+    void Curve(const char* name, GeoData& element)
+    {
+        curves.insert(element.curve);
+        if (auto* arc = dynamic_cast<Arc*>(element.curve)) {
+            Nested(std::string(name) + ":Arc", *arc);
+        } else if (auto* circle = dynamic_cast<Circle*>(element.curve)) {
+            Nested(std::string(name) + ":Circle", *circle);
+        } else if (auto* line = dynamic_cast<LineSegment*>(element.curve)) {
+            Nested(std::string(name) + ":LineSegment", *line);
+        } else if (auto* polygon = dynamic_cast<Polygon*>(element.curve)) {
+            Nested(std::string(name) + ":Polygon", *polygon);
+        } else {
+            lines.push_back(path_ + name + ":none");
+        }
+    }
+
+    std::vector<std::string> lines;
+    std::set<const void*> curves;
+
+private:
+    template <class R>
+    void Nested(const std::string& name, R& record)
+    {
+        const std::string outer = path_;
+        path_ += name + ".";
+        Tree::Fields(*this, record);
+        path_ = outer;
+    }
+
+    std::string path_;
+};
+
+template <class R>
+Collector Collected(R& record)
+{
+    Collector collector;
+    Tree::Fields(collector, record);
+    return collector;
+}
+
+// Adding through a collection base of the copy changes the copy's member and
+// leaves the original's alone.
+template <class Base, class R, class Size>
+void ExpectOwnCollection(R& original, R& copy, const typename Base::element_type& element, Size size)
+{
+    const std::size_t originalBefore = size(original);
+    const std::size_t copyBefore = size(copy);
+    static_cast<Base&>(copy).Add(element);
+    EXPECT_EQ(size(copy), copyBefore + 1);
+    EXPECT_EQ(size(original), originalBefore);
+}
+
+template <class R>
+using Over = ItCollectionImpl<std::vector<R>>;
+
+// The collection bases of each record class; none for a record without any.
+template <class R>
+void ExpectOwnCollections(R&, R&)
+{
+}
+
+void ExpectOwnCollections(Order& o, Order& c)
+{
+    ExpectOwnCollection<Over<ElementPart>>(o, c, ElementPart(), [](Order& r) { return r.elementParts.size(); });
+}
+
+void ExpectOwnCollections(ElementPart& o, ElementPart& c)
+{
+    ExpectOwnCollection<Over<ConcreteLayer>>(o, c, ConcreteLayer(502), [](ElementPart& r) { return r.concreteLayers.size(); });
+    ExpectOwnCollection<Over<Contour>>(o, c, Contour(502), [](ElementPart& r) { return r.contourData.contours.size(); });
+    ExpectOwnCollection<Over<Cutout>>(o, c, Cutout(502), [](ElementPart& r) { return r.cutoutData.cutouts.size(); });
+    ExpectOwnCollection<Over<MountingPart>>(o, c, MountingPart(502), [](ElementPart& r) { return r.mountingPartData.parts.size(); });
+    ExpectOwnCollection<Over<Rodstock>>(o, c, Rodstock(502), [](ElementPart& r) { return r.rodstockData.bars.size(); });
+    ExpectOwnCollection<Over<BracedGirder>>(o, c, BracedGirder(), [](ElementPart& r) { return r.bracedGirderData.girders.size(); });
+    ExpectOwnCollection<Over<ExternalIron>>(o, c, ExternalIron(), [](ElementPart& r) { return r.externalIronData.irons.size(); });
+    ExpectOwnCollection<Over<Layer>>(o, c, Layer(), [](ElementPart& r) { return r.layers.size(); });
+}
+
+void ExpectOwnCollections(Layer& o, Layer& c)
+{
+    ExpectOwnCollection<Over<Lot>>(o, c, Lot(), [](Layer& r) { return r.lots.size(); });
+    ExpectOwnCollection<Over<MountingPart>>(o, c, MountingPart(502), [](Layer& r) { return r.mountingPartData.parts.size(); });
+}
+
+void ExpectOwnCollections(Lot& o, Lot& c)
+{
+    ExpectOwnCollection<Over<Contour>>(o, c, Contour(502), [](Lot& r) { return r.contourData.contours.size(); });
+    ExpectOwnCollection<Over<Cutout>>(o, c, Cutout(502), [](Lot& r) { return r.cutoutData.cutouts.size(); });
+}
+
+void ExpectOwnCollections(Contour& o, Contour& c)
+{
+    ExpectOwnCollection<Over<GeoData>>(o, c, GeoData(502), [](Contour& r) { return r.geoData.size(); });
+}
+
+void ExpectOwnCollections(Cutout& o, Cutout& c)
+{
+    ExpectOwnCollection<Over<GeoData>>(o, c, GeoData(502), [](Cutout& r) { return r.geoData.size(); });
+}
+
+void ExpectOwnCollections(MountingPart& o, MountingPart& c)
+{
+    ExpectOwnCollection<Over<GeoData>>(o, c, GeoData(502), [](MountingPart& r) { return r.geoData.size(); });
+}
+
+void ExpectOwnCollections(ContourData& o, ContourData& c)
+{
+    ExpectOwnCollection<Over<Contour>>(o, c, Contour(502), [](ContourData& r) { return r.contours.size(); });
+}
+
+void ExpectOwnCollections(CutoutData& o, CutoutData& c)
+{
+    ExpectOwnCollection<Over<Cutout>>(o, c, Cutout(502), [](CutoutData& r) { return r.cutouts.size(); });
+}
+
+void ExpectOwnCollections(MountingPartData& o, MountingPartData& c)
+{
+    ExpectOwnCollection<Over<MountingPart>>(o, c, MountingPart(502), [](MountingPartData& r) { return r.parts.size(); });
+}
+
+void ExpectOwnCollections(RodstockData& o, RodstockData& c)
+{
+    ExpectOwnCollection<Over<Rodstock>>(o, c, Rodstock(502), [](RodstockData& r) { return r.bars.size(); });
+}
+
+void ExpectOwnCollections(BracedGirderData& o, BracedGirderData& c)
+{
+    ExpectOwnCollection<Over<BracedGirder>>(o, c, BracedGirder(), [](BracedGirderData& r) { return r.girders.size(); });
+}
+
+void ExpectOwnCollections(ExternalIronData& o, ExternalIronData& c)
+{
+    ExpectOwnCollection<Over<ExternalIron>>(o, c, ExternalIron(), [](ExternalIronData& r) { return r.irons.size(); });
+}
+
+void ExpectOwnCollections(Reinforcement& o, Reinforcement& c)
+{
+    ExpectOwnCollection<Over<Steelmat>>(o, c, Steelmat(), [](Reinforcement& r) { return r.mats.size(); });
+}
+
+void ExpectOwnCollections(Steelmat& o, Steelmat& c)
+{
+    ExpectOwnCollection<ItCollectionImpl<RodstockData>>(o, c, Rodstock(502), [](Steelmat& r) { return r.rodstocks.bars.size(); });
+    ExpectOwnCollection<ItCollectionImpl<BracedGirderData>>(o, c, BracedGirder(), [](Steelmat& r) { return r.girders.girders.size(); });
+}
+
+void ExpectOwnCollections(Rodstock& o, Rodstock& c)
+{
+    ExpectOwnCollection<ItCollectionImpl<SpacerData>>(o, c, SpacerPosition(), [](Rodstock& r) { return r.spacers.positions.size(); });
+    ExpectOwnCollection<ItCollectionImpl<WeldingPointData>>(o, c, WeldingPoint(), [](Rodstock& r) { return r.weldingPoints.points.size(); });
+}
+
+void ExpectOwnCollections(BracedGirder& o, BracedGirder& c)
+{
+    ExpectOwnCollection<ItCollectionImpl<WeldingPointData>>(o, c, WeldingPoint(), [](BracedGirder& r) { return r.weldingPoints.points.size(); });
+    ExpectOwnCollection<ItCollectionImpl<AnchorBarData>>(o, c, AnchorBar(), [](BracedGirder& r) { return r.anchorBars.bars.size(); });
+}
+
+void ExpectOwnCollections(AnchorBarData& o, AnchorBarData& c)
+{
+    ExpectOwnCollection<Over<AnchorBar>>(o, c, AnchorBar(), [](AnchorBarData& r) { return r.bars.size(); });
+}
+
+void ExpectOwnCollections(WeldingPointData& o, WeldingPointData& c)
+{
+    ExpectOwnCollection<Over<WeldingPoint>>(o, c, WeldingPoint(), [](WeldingPointData& r) { return r.points.size(); });
+}
+
+void ExpectOwnCollections(SpacerData& o, SpacerData& c)
+{
+    ExpectOwnCollection<Over<SpacerPosition>>(o, c, SpacerPosition(), [](SpacerData& r) { return r.positions.size(); });
+}
+
+void ExpectOwnCollections(BendingFormFree& o, BendingFormFree& c)
+{
+    ExpectOwnCollection<Over<BendingFormPart>>(o, c, BendingFormPart(), [](BendingFormFree& r) { return r.parts.size(); });
+}
+
+void ExpectOwnCollections(BendingFormPart& o, BendingFormPart& c)
+{
+    ExpectOwnCollection<Over<BendingFormSegment>>(o, c, BendingFormSegment(), [](BendingFormPart& r) { return r.segments.size(); });
+}
+
+void ExpectOwnCollections(Polygon& o, Polygon& c)
+{
+    ExpectOwnCollection<Over<Point2d>>(o, c, Point2d(1, 2), [](Polygon& r) { return r.points.size(); });
+    ExpectOwnCollection<Over<std::int32_t>>(o, c, 7, [](Polygon& r) { return r.segmentFlags.size(); });
+}
+
+// What a record keeps equal by its own rule, made so after filling.
+template <class R>
+void Settle(R&)
+{
+}
+
+void Settle(Order& order)
+{
+    // The date's version is the order's.
+    order.date.version = order.version;
+}
+
+template <class R>
+class RecordCopy : public ::testing::Test {};
+
+using Records = ::testing::Types<Order, Project, Address, Date, Lot, ElementPart, Layer, ConcreteLayer, Plaster,
+                                 Contour, ContourData, Cutout, CutoutData, MountingPart, MountingPartData,
+                                 Reinforcement, Steelmat, Rodstock, RodstockData, BracedGirder, BracedGirderData,
+                                 ExternalIron, ExternalIronData, BendingForm, BendingFormFree, BendingFormPart,
+                                 BendingFormSegment, AnchorBar, AnchorBarData, WeldingIntersection, WeldingPoint,
+                                 WeldingPointData, SpacerPosition, SpacerData, GeoData, LineSegment, Circle, Arc,
+                                 Polygon, Point2d, Vector2d, Point3d, Vector3d, Edge>;
+
+class RecordName {
+public:
+    template <class R>
+    static std::string GetName(int)
+    {
+        std::string name = ::testing::internal::GetTypeName<R>();
+        const std::size_t colon = name.rfind(':');
+        return colon == std::string::npos ? name : name.substr(colon + 1);
+    }
+};
+
+TYPED_TEST_SUITE(RecordCopy, Records, RecordName);
+
+TYPED_TEST(RecordCopy, EveryMemberIsCopiedAndTheCopyWorksOnItsOwnMembers)
+{
+    TypeParam original = Make<TypeParam>();
+    const Collector defaults = Collected(original);
+    Filler filler;
+    Tree::Fields(filler, original);
+    Settle(original);
+    const Collector filled = Collected(original);
+    // Nothing was left at its default: each member line differs.
+    for (const std::string& line : filled.lines) {
+        EXPECT_EQ(std::count(defaults.lines.begin(), defaults.lines.end(), line), 0) << line;
+    }
+
+    TypeParam copy(original);
+    const Collector copied = Collected(copy);
+    EXPECT_EQ(copied.lines, filled.lines);
+
+    TypeParam assigned = Make<TypeParam>();
+    assigned = original;
+    const Collector assignedLines = Collected(assigned);
+    EXPECT_EQ(assignedLines.lines, filled.lines);
+
+    // The curves of the copies are their own.
+    for (const void* curve : copied.curves) {
+        EXPECT_EQ(filled.curves.count(curve), 0u);
+    }
+    for (const void* curve : assignedLines.curves) {
+        EXPECT_EQ(filled.curves.count(curve), 0u);
+    }
+
+    ExpectOwnCollections(original, copy);
+    ExpectOwnCollections(original, assigned);
+    // The original still holds every member as it was.
+    const Collector after = Collected(original);
+    EXPECT_EQ(after.lines, filled.lines);
+}
+
+} // namespace
+} // namespace ItUnitechnik
