@@ -66,6 +66,23 @@ private:
     // The record's tag and version lines; the record's tag is where a stop
     // is placed.
     std::int16_t Head(const char* tag);
+    // The frame of a list record: its tag and version, the count of its
+    // elements in `countWidth(version)` places, each element ended by a line
+    // end, and "END". `make(version)` gives an element, `load` reads it.
+    template <class T, class Width, class Make, class Load>
+    std::int16_t List(const char* tag, Width countWidth, std::vector<T>& elements, Make make, Load load)
+    {
+        const std::int16_t version = Head(tag);
+        const std::size_t count = Count(in_.UInt<std::int64_t>(countWidth(version)));
+        in_.EndLine();
+        for (std::size_t i = 0; i < count; ++i) {
+            elements.push_back(make(version));
+            load(elements.back());
+            in_.EndLine();
+        }
+        in_.Tag("END");
+        return version;
+    }
     // A code the records' Read takes as a token: note when it holds a blank.
     std::wstring Code(int width);
     void Note(Departure departure) { departures_.insert(departure); }

@@ -109,55 +109,40 @@ void Loader::LoadGeoDataLines(std::vector<GeoData>& elements, std::int32_t versi
 
 void Loader::LoadContours(ContourData& data)
 {
-    data.version = Head("CONTOUR_");
-    const std::size_t count = Count(in_.UInt<std::int64_t>(2));
-    in_.EndLine();
-    for (std::size_t i = 0; i < count; ++i) {
-        data.contours.emplace_back(data.version);
-        Contour& contour = data.contours.back();
-        contour.contourNumber = in_.UInt<std::int32_t>(2);
-        in_.Blank();
-        contour.contourCode = Code(2);
-        in_.Blank();
-        LoadGeoDataLines(contour.geoData, contour.version);
-        in_.EndLine();
-    }
-    in_.Tag("END");
+    data.version = List(
+        "CONTOUR_", [](std::int16_t) { return 2; }, data.contours, [](std::int16_t version) { return Contour(version); },
+        [this](Contour& contour) {
+            contour.contourNumber = in_.UInt<std::int32_t>(2);
+            in_.Blank();
+            contour.contourCode = Code(2);
+            in_.Blank();
+            LoadGeoDataLines(contour.geoData, contour.version);
+        });
 }
 
 void Loader::LoadCutouts(CutoutData& data)
 {
-    data.version = Head("CUTOUT__");
-    const std::size_t count = Count(in_.UInt<std::int64_t>(2));
-    in_.EndLine();
-    for (std::size_t i = 0; i < count; ++i) {
-        data.cutouts.emplace_back(data.version);
-        Cutout& cutout = data.cutouts.back();
-        cutout.cutoutNumber = in_.UInt<std::int32_t>(2);
-        in_.Blank();
-        cutout.cutoutValue = in_.Real(2, 3);
-        in_.Blank();
-        if (cutout.version >= 600) {
-            cutout.cutoutName = in_.Text(40);
+    data.version = List(
+        "CUTOUT__", [](std::int16_t) { return 2; }, data.cutouts, [](std::int16_t version) { return Cutout(version); },
+        [this](Cutout& cutout) {
+            cutout.cutoutNumber = in_.UInt<std::int32_t>(2);
             in_.Blank();
-        }
-        LoadGeoDataLines(cutout.geoData, cutout.version);
-        in_.EndLine();
-    }
-    in_.Tag("END");
+            cutout.cutoutValue = in_.Real(2, 3);
+            in_.Blank();
+            if (cutout.version >= 600) {
+                cutout.cutoutName = in_.Text(40);
+                in_.Blank();
+            }
+            LoadGeoDataLines(cutout.geoData, cutout.version);
+        });
 }
 
 void Loader::LoadParts(MountingPartData& data)
 {
-    data.version = Head("MOUNPART");
-    const std::size_t count = Count(in_.UInt<std::int64_t>(data.version < 502 ? 2 : 3));
-    in_.EndLine();
-    for (std::size_t i = 0; i < count; ++i) {
-        data.parts.emplace_back(data.version);
-        LoadPart(data.parts.back());
-        in_.EndLine();
-    }
-    in_.Tag("END");
+    // The count has two places below 502, three from it.
+    data.version = List(
+        "MOUNPART", [](std::int16_t version) { return version < 502 ? 2 : 3; }, data.parts,
+        [](std::int16_t version) { return MountingPart(version); }, [this](MountingPart& part) { LoadPart(part); });
 }
 
 void Loader::LoadPart(MountingPart& part)

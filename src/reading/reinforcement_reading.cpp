@@ -70,15 +70,9 @@ void Loader::LoadSteelmat(Steelmat& mat)
 
 void Loader::LoadRodstocks(RodstockData& data)
 {
-    data.version = Head("RODSTOCK");
-    const std::size_t count = Count(in_.UInt<std::int64_t>(3));
-    in_.EndLine();
-    for (std::size_t i = 0; i < count; ++i) {
-        data.bars.emplace_back(data.version);
-        LoadRodstock(data.bars.back());
-        in_.EndLine();
-    }
-    in_.Tag("END");
+    data.version = List(
+        "RODSTOCK", [](std::int16_t) { return 3; }, data.bars, [](std::int16_t version) { return Rodstock(version); },
+        [this](Rodstock& bar) { LoadRodstock(bar); });
 }
 
 void Loader::LoadRodstock(Rodstock& bar)
@@ -145,15 +139,9 @@ void Loader::LoadRodstock(Rodstock& bar)
 
 void Loader::LoadGirders(BracedGirderData& data)
 {
-    data.version = Head("BRGIRDER");
-    const std::size_t count = Count(in_.UInt<std::int64_t>(3));
-    in_.EndLine();
-    for (std::size_t i = 0; i < count; ++i) {
-        data.girders.emplace_back();
-        LoadGirder(data.girders.back());
-        in_.EndLine();
-    }
-    in_.Tag("END");
+    data.version = List(
+        "BRGIRDER", [](std::int16_t) { return 3; }, data.girders, [](std::int16_t) { return BracedGirder(); },
+        [this](BracedGirder& girder) { LoadGirder(girder); });
 }
 
 void Loader::LoadGirder(BracedGirder& girder)
@@ -209,24 +197,19 @@ void Loader::LoadGirder(BracedGirder& girder)
 
 void Loader::LoadIrons(ExternalIronData& data)
 {
-    data.version = Head("EXTIRON_");
-    const std::size_t count = Count(in_.UInt<std::int64_t>(3));
-    in_.EndLine();
-    for (std::size_t i = 0; i < count; ++i) {
-        data.irons.emplace_back();
-        ExternalIron& iron = data.irons.back();
-        iron.ironNumber = in_.UInt<std::int32_t>(3);
-        in_.Blank();
-        iron.ironCode = in_.UInt<std::int32_t>(2);
-        in_.Blank();
-        iron.ironCount = in_.UInt<std::int32_t>(5);
-        in_.Blank();
-        iron.ironValue = in_.Real(3, 3);
-        in_.Blank();
-        iron.ironText = in_.Text(30);
-        in_.EndLine();
-    }
-    in_.Tag("END");
+    data.version = List(
+        "EXTIRON_", [](std::int16_t) { return 3; }, data.irons, [](std::int16_t) { return ExternalIron(); },
+        [this](ExternalIron& iron) {
+            iron.ironNumber = in_.UInt<std::int32_t>(3);
+            in_.Blank();
+            iron.ironCode = in_.UInt<std::int32_t>(2);
+            in_.Blank();
+            iron.ironCount = in_.UInt<std::int32_t>(5);
+            in_.Blank();
+            iron.ironValue = in_.Real(3, 3);
+            in_.Blank();
+            iron.ironText = in_.Text(30);
+        });
 }
 
 void Loader::LoadBendingForm(BendingForm& form)
