@@ -499,11 +499,21 @@ TEST(OrderWithElement, AFailingElementIsNotKept)
 namespace ItUnitechnik {
 namespace {
 
-Contour Rectangle(std::int32_t x0, std::int32_t y0, std::int32_t x1, std::int32_t y1)
+// The pieces of one contour as the test keeps them: x0, y0, x1, y1 each.
+using Pieces = std::vector<std::array<std::int32_t, 4>>;
+
+Contour ContourOf(const Pieces& pieces)
 {
     Contour contour(502);
-    contour.Add(GeoData(502, L'S', std::make_unique<LineSegment>(502, Point2d(x0, y0), Point2d(x1, y1))));
+    for (const auto& p : pieces) {
+        contour.Add(GeoData(502, L'S', std::make_unique<LineSegment>(502, Point2d(p[0], p[1]), Point2d(p[2], p[3]))));
+    }
     return contour;
+}
+
+Contour Rectangle(std::int32_t x0, std::int32_t y0, std::int32_t x1, std::int32_t y1)
+{
+    return ContourOf({{x0, y0, x1, y1}});
 }
 
 TEST(ElementPartExtents, AnyChangeWithoutAContourGivesOneAndOne)
@@ -559,18 +569,6 @@ TEST(ElementPartExtents, CutoutsDoNotCount)
     element.appendCutout(cutout);
     EXPECT_EQ(element.extentX, 3000);
     EXPECT_EQ(element.cutoutData.cutouts[0].cutoutNumber, 1);
-}
-
-// The pieces of one contour as the test keeps them: x0, y0, x1, y1 each.
-using Pieces = std::vector<std::array<std::int32_t, 4>>;
-
-Contour ContourOf(const Pieces& pieces)
-{
-    Contour contour(502);
-    for (const auto& p : pieces) {
-        contour.Add(GeoData(502, L'S', std::make_unique<LineSegment>(502, Point2d(p[0], p[1]), Point2d(p[2], p[3]))));
-    }
-    return contour;
 }
 
 // The extents of an outline, worked out here from the end points: the width
