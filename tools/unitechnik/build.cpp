@@ -42,7 +42,7 @@ public:
         }
         nlohmann::ordered_json line;
         line["index"] = call.index;
-        line["call"] = call.spec->name;
+        line["call"] = call.callEntry->name;
         if (outcome.result) {
             line["result"] = *outcome.result;
         }

@@ -43,7 +43,7 @@ public:
 
     std::optional<std::string> In(const Call& call)
     {
-        for (const Script::KeySpec& key : call.spec->keys) {
+        for (const Script::KeySpec& key : call.callEntry->keys) {
             Key(call.arguments, key, key.name);
             if (found_) {
                 break;
@@ -121,7 +121,7 @@ private:
 
 std::string CallPlace(const Call& call)
 {
-    return "call " + std::to_string(call.index) + " (" + call.spec->name + ")";
+    return "call " + std::to_string(call.index) + " (" + call.callEntry->name + ")";
 }
 
 // A finding of a document written at a checkpoint (an endDocument, or the
@@ -164,7 +164,7 @@ public:
     }
 
 private:
-    static bool WritesFile(const Call& call) { return call.spec->pathKey != nullptr; }
+    static bool WritesFile(const Call& call) { return call.callEntry->pathKey != nullptr; }
 
     Place PlaceOfCall(std::size_t index) const
     {
@@ -184,7 +184,7 @@ private:
         finding.code = code;
         finding.message = message;
         finding.details["call"] = call.index;
-        finding.details["function"] = call.spec->name;
+        finding.details["function"] = call.callEntry->name;
         for (auto& [key, value] : details.items()) {
             finding.details[key] = std::move(value);
         }
@@ -202,7 +202,7 @@ private:
                 details["key"] = counted.count;
                 Add(call, Code::countBeyondData,
                     CallPlace(call) + ", key " + Quoted(counted.count) + ": " + std::to_string(padding.count) + " " +
-                        counted.unitName + " make " + call.spec->name + " read " + std::to_string(padding.reads) +
+                        counted.unitName + " make " + call.callEntry->name + " read " + std::to_string(padding.reads) +
                         " " + counted.entryName + " of " + Quoted(counted.list) + ", which holds " +
                         std::to_string(padding.length) + ": the library reads " + std::to_string(zeros) +
                         (zeros == 1 ? " zero" : " zeros") + " behind them",
@@ -222,7 +222,7 @@ private:
                 Checkpoint(call.index);
                 wrote = true;
             } else {
-                call.spec->invoke(call.arguments);
+                call.callEntry->invoke(call.arguments);
             }
         }
         if (!wrote && !calls_.empty()) {
@@ -260,7 +260,7 @@ private:
         theDocument.orders.clear();
         for (const Call& call : calls_) {
             if (!WritesFile(call)) {
-                call.spec->invoke(call.arguments);
+                call.callEntry->invoke(call.arguments);
             }
             for (auto& [key, seen] : watched) {
                 std::optional<std::string> value = Tree::ValueAt(theDocument.orders, key.first, key.second);

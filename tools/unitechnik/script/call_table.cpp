@@ -409,9 +409,9 @@ const std::vector<CallSpec>& CallTable()
 
 const CallSpec* FindCall(std::string_view name)
 {
-    for (const CallSpec& spec : CallTable()) {
-        if (spec.name == name) {
-            return &spec;
+    for (const CallSpec& callEntry : CallTable()) {
+        if (callEntry.name == name) {
+            return &callEntry;
         }
     }
     return nullptr;

@@ -105,8 +105,8 @@ std::string Range(const IntegerType& type)
 // Reads the keys of one call against its entry in the call table.
 class CallReader {
 public:
-    CallReader(std::size_t index, const CallSpec& spec, std::int64_t& paddingLeft)
-        : index_(index), spec_(spec), paddingLeft_(paddingLeft)
+    CallReader(std::size_t index, const CallSpec& callEntry, std::int64_t& paddingLeft)
+        : index_(index), spec_(callEntry), paddingLeft_(paddingLeft)
     {
     }
 
@@ -161,7 +161,7 @@ private:
         return nullptr;
     }
 
-    // The spec of a key path such as "block.pointCount".
+    // The callEntry of a key path such as "block.pointCount".
     const KeySpec& SpecOf(const std::string& path) const
     {
         const std::size_t dot = path.find('.');
@@ -461,13 +461,13 @@ std::vector<Call> ReadCalls(const json& script)
                            + " is no call of a script: the tool gives every result of "
                              "getFullReinforcementString back through it itself");
         }
-        const CallSpec* spec = FindCall(callName);
-        if (spec == nullptr) {
+        const CallSpec* callEntry = FindCall(callName);
+        if (callEntry == nullptr) {
             throw BadInput(place + ": unknown call " + Quoted(callName));
         }
-        CallReader reader(index, *spec, paddingLeft);
+        CallReader reader(index, *callEntry, paddingLeft);
         Arguments arguments = reader.Read(call);
-        calls.push_back(Call{index, spec, std::move(arguments), reader.TakePadded()});
+        calls.push_back(Call{index, callEntry, std::move(arguments), reader.TakePadded()});
     }
     return calls;
 }
@@ -479,8 +479,8 @@ void RedirectLastDocument(std::vector<Call>& calls, const std::string& path)
         throw BadInput("-o: \"" + path + "\" is no file name");
     }
     for (auto call = calls.rbegin(); call != calls.rend(); ++call) {
-        if (call->spec->pathKey != nullptr) {
-            call->arguments.Set(call->spec->pathKey, *text);
+        if (call->callEntry->pathKey != nullptr) {
+            call->arguments.Set(call->callEntry->pathKey, *text);
             return;
         }
     }
@@ -493,8 +493,8 @@ void RedirectLastDocument(std::vector<Call>& calls, const std::string& path)
 void CheckPaths(const std::vector<Call>& calls)
 {
     for (const Call& call : calls) {
-        if (call.spec->pathKey != nullptr && call.arguments.Text(call.spec->pathKey).empty()) {
-            throw BadInput(KeyPlace(call.index, call.spec->name, call.spec->pathKey)
+        if (call.callEntry->pathKey != nullptr && call.arguments.Text(call.callEntry->pathKey).empty()) {
+            throw BadInput(KeyPlace(call.index, call.callEntry->name, call.callEntry->pathKey)
                            + ": no file name (give one, or -o FILE for the last endDocument)");
         }
     }

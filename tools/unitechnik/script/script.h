@@ -31,7 +31,7 @@ struct Padding {
 
 struct Call {
     std::size_t index; // in the script's "calls", from 0
-    const CallSpec* spec;
+    const CallSpec* callEntry;
     Arguments arguments;
     std::vector<Padding> padded; // the lists padded behind a count that was given
 };
