@@ -120,7 +120,14 @@ if(PKG_CONFIG)
             set(compiler ${CXX})
         endif()
         get_filename_component(name ${host} NAME)
-        run(${compiler} ${sanitize_flags} -o ${WORK_DIR}/${name}.bin ${SOURCE_DIR}/${host} ${flags})
+        set(host_flags ${sanitize_flags})
+        if(SANITIZE AND compiler MATCHES "clang")
+            # clang links the C++ half of its UBSan runtime, which the checks
+            # of function types and vptrs in the library call, only into C++
+            # programs unless told to, and that half needs the C++ library.
+            list(APPEND host_flags -fsanitize-link-c++-runtime -lstdc++)
+        endif()
+        run(${compiler} ${host_flags} -o ${WORK_DIR}/${name}.bin ${SOURCE_DIR}/${host} ${flags})
         run(${run_env} ${WORK_DIR}/${name}.bin ${WORK_DIR}/${name}.txt)
         expect_document("${host} built with pkg-config" ${WORK_DIR}/${name}.txt)
     endforeach()

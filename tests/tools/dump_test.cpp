@@ -50,8 +50,8 @@ TEST(Dump, EveryGoldenFileDumpedAndBuiltAgainGivesItsBytes)
 TEST(Dump, EveryGeneratedScriptsDocumentDumpedAndBuiltAgainGivesItsBytes)
 {
     TemporaryDirectory directory;
-    const std::vector<std::string> paths = GenerateScripts(directory.Path(), 20261124, 520);
-    ASSERT_EQ(paths.size(), 520u);
+    const std::vector<std::string> paths = GenerateScripts(directory.Path(), 20261124, UNITECHNIK_GENERATED_SCRIPTS);
+    ASSERT_EQ(paths.size(), std::size_t{UNITECHNIK_GENERATED_SCRIPTS});
     for (std::size_t number = 0; number < paths.size(); ++number) {
         const ToolResult run = RunTool({"build", paths[number], "-o", "first.uni"}, directory.Path());
         ASSERT_EQ(run.exitCode, 0) << paths[number] << ": " << run.err;
