@@ -12,39 +12,36 @@ namespace {
 using nlohmann::json;
 
 // Where the parser is: one frame per open object or array, with the keys an
-// object has so far and the index of an array's next entry.
-class Places {
+// object has so far and the index of an array's next entry. A pass of its
+// own, ahead of building the value: nlohmann's parser with a callback goes
+// through an array again at the end of each object in it.
+class DoubledKeys final : public json::json_sax_t {
 public:
-    bool Event(int depth, json::parse_event_t event, json& parsed)
+    bool null() override { return Value(); }
+    bool boolean(bool) override { return Value(); }
+    bool number_integer(number_integer_t) override { return Value(); }
+    bool number_unsigned(number_unsigned_t) override { return Value(); }
+    bool number_float(number_float_t, const string_t&) override { return Value(); }
+    bool string(string_t&) override { return Value(); }
+    bool binary(binary_t&) override { return Value(); }
+    bool start_object(std::size_t) override { return Open(true); }
+    bool start_array(std::size_t) override { return Open(false); }
+    bool end_object() override { return Close(); }
+    bool end_array() override { return Close(); }
+
+    bool key(string_t& key) override
     {
-        (void)depth;
-        switch (event) {
-        case json::parse_event_t::object_start:
-            Open(true);
-            break;
-        case json::parse_event_t::array_start:
-            Open(false);
-            break;
-        case json::parse_event_t::object_end:
-        case json::parse_event_t::array_end:
-            frames_.pop_back();
-            break;
-        case json::parse_event_t::key: {
-            Frame& frame = frames_.back();
-            const std::string key = parsed.get<std::string>();
-            if (!frame.keys.insert(key).second) {
-                const std::string where = frame.path.empty() ? "the top object" : frame.path;
-                throw BadInput(where + ": the key \"" + key + "\" stands twice");
-            }
-            frame.lastKey = key;
-            break;
+        Frame& frame = frames_.back();
+        if (!frame.keys.insert(key).second) {
+            const std::string where = frame.path.empty() ? "the top object" : frame.path;
+            throw BadInput(where + ": the key \"" + key + "\" stands twice");
         }
-        case json::parse_event_t::value:
-            Enter();
-            break;
-        }
+        frame.lastKey = key;
         return true;
     }
+
+    // The parse that builds the value tells the error with its place.
+    bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) override { return false; }
 
 private:
     struct Frame {
@@ -55,25 +52,34 @@ private:
         std::size_t nextIndex = 0;
     };
 
-    // The place of the value that begins now, in the frame around it.
-    std::string Enter()
+    bool Value()
     {
-        if (frames_.empty()) {
-            return std::string();
+        if (!frames_.empty() && !frames_.back().isObject) {
+            ++frames_.back().nextIndex;
         }
-        Frame& frame = frames_.back();
-        if (frame.isObject) {
-            return frame.path.empty() ? frame.lastKey : frame.path + "." + frame.lastKey;
-        }
-        return frame.path + "[" + std::to_string(frame.nextIndex++) + "]";
+        return true;
     }
 
-    void Open(bool isObject)
+    bool Open(bool isObject)
     {
         Frame frame;
         frame.isObject = isObject;
-        frame.path = Enter();
+        if (!frames_.empty()) {
+            Frame& outer = frames_.back();
+            if (outer.isObject) {
+                frame.path = outer.path.empty() ? outer.lastKey : outer.path + "." + outer.lastKey;
+            } else {
+                frame.path = outer.path + "[" + std::to_string(outer.nextIndex++) + "]";
+            }
+        }
         frames_.push_back(std::move(frame));
+        return true;
+    }
+
+    bool Close()
+    {
+        frames_.pop_back();
+        return true;
     }
 
     std::vector<Frame> frames_;
@@ -83,13 +89,10 @@ private:
 
 nlohmann::json ParseJsonText(const std::string& text)
 {
-    Places places;
     try {
-        return json::parse(
-            text, [&places](int depth, json::parse_event_t event, json& parsed) {
-                return places.Event(depth, event, parsed);
-            },
-            true, true);
+        DoubledKeys doubled;
+        json::sax_parse(text, &doubled, json::input_format_t::json, true, true);
+        return json::parse(text, nullptr, true, true);
     } catch (const json::parse_error& e) {
         // The parser's own account starts with its line and column.
         const std::string what = e.what();
