@@ -87,7 +87,8 @@ unitechnik_case(diff.json ${PROJECT_SOURCE_DIR}/tests "diff|${slab600}|tools/dif
     OUT diff/removed-cutout.json)
 unitechnik_case(diff.unreadable ${PROJECT_SOURCE_DIR}/tests "diff|${slab600}|missing.uni" 3 ERR diff/missing.err)
 
-# convert: 600 to 502 gives the golden 502 file, cutting the designations;
+# convert: 600 to 502 gives the golden 502 file, cutting the designations
+# and leaving out the element's own bars, girders and irons (its mats stay);
 # back to 600 it reads and checks, and the diff with the first file is what
 # 502 cannot hold; to 5 it reads and checks too.
 unitechnik_case(convert.600_to_502 ${UNITECHNIK_CONVERT_DIR}
@@ -112,6 +113,13 @@ unitechnik_case(convert.slab_600_to_502 ${UNITECHNIK_CONVERT_DIR}
     "convert|${UNITECHNIK_GOLDEN}/slab/slab-600.txt|--version|502|-o|slab-502.txt" 1
     OUT convert/slab-600-to-502.txt
     WRITTEN slab-502.txt WRITTEN_EXPECTED ${UNITECHNIK_GOLDEN}/slab/slab-502.txt)
+# At the version the file has, convert leaves out nothing and writes the same bytes.
+unitechnik_case(convert.slab_600_to_600 ${UNITECHNIK_CONVERT_DIR}
+    "convert|${UNITECHNIK_GOLDEN}/slab/slab-600.txt|--version|600|-o|slab-600.txt" 0
+    WRITTEN slab-600.txt WRITTEN_EXPECTED ${UNITECHNIK_GOLDEN}/slab/slab-600.txt)
+unitechnik_case(convert.reinforced_502_to_502 ${UNITECHNIK_CONVERT_DIR}
+    "convert|${UNITECHNIK_GOLDEN}/reinforced/reinforced-502.txt|--version|502|-o|reinforced-502-again.txt" 0
+    WRITTEN reinforced-502-again.txt WRITTEN_EXPECTED ${UNITECHNIK_GOLDEN}/reinforced/reinforced-502.txt)
 unitechnik_case(convert.bad_version ${UNITECHNIK_CONVERT_DIR}
     "convert|${UNITECHNIK_GOLDEN}/slab/slab-600.txt|--version|70000|-o|x.txt" 2)
 unitechnik_case(convert.unreadable ${UNITECHNIK_CONVERT_DIR} "convert|missing.uni|--version|502|-o|x.txt" 3

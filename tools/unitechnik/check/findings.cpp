@@ -14,7 +14,7 @@ struct CodeInfo {
 };
 
 // Codes are never renumbered: a new one comes after the last of its hundred.
-constexpr std::array<CodeInfo, 10> kCodes{{
+constexpr std::array<CodeInfo, 11> kCodes{{
     {Code::textCut, "UT101", "text-cut"},
     {Code::numberTooWide, "UT102", "number-too-wide"},
     {Code::unwritableCharacter, "UT103", "unwritable-character"},
@@ -25,6 +25,7 @@ constexpr std::array<CodeInfo, 10> kCodes{{
     {Code::lineEnd, "UT202", "line-end"},
     {Code::cutOff, "UT203", "cut-off"},
     {Code::trailingData, "UT204", "trailing-data"},
+    {Code::recordLeftOut, "UT301", "record-left-out"},
 }};
 
 const CodeInfo& Info(Code code)

@@ -25,6 +25,7 @@ enum class Code {
     lineEnd,             // UT202
     cutOff,              // UT203
     trailingData,        // UT204
+    recordLeftOut,       // UT301
 };
 
 // "UT101" and "text-cut".
