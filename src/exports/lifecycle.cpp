@@ -27,8 +27,6 @@ try {
     }
     Order order;
     order.orderValue2 = static_cast<int16_t>(orderValue);
-    order.version = static_cast<int16_t>(version);
-    order.date.version = order.version;
 
     ElementPart element;
     Point3d* const points[3] = {&element.firstPoint, &element.secondPoint, &element.thirdPoint};
@@ -37,15 +35,6 @@ try {
         points[i]->y = ItUnitechnik::TruncateToInt32(std::round(placement[3 * i + 1]));
         points[i]->z = ItUnitechnik::TruncateToInt32(std::round(placement[3 * i + 2]));
     }
-    element.version = order.version;
-    element.contourData.version = order.version;
-    element.cutoutData.version = order.version;
-    element.mountingPartData.version = order.version;
-    element.rodstockData.version = order.version;
-    element.reinforcement.version = order.version;
-    element.reinforcement.externalIrons.version = order.version;
-    element.bracedGirderData.version = order.version;
-    element.externalIronData.version = order.version;
     element.hasExternalIron = true;
     element.elementMeasure = elementMeasureArg;
     element.elementNumber = static_cast<int16_t>(elementNumberArg);
@@ -55,6 +44,7 @@ try {
     element.secondPlaster = ItUnitechnik::Plaster();
     // Moved in rather than copied; each collection's hook runs as after an Add.
     order.elementParts.push_back(std::move(element));
+    order.setVersion(static_cast<int16_t>(version));
     order.Changed();
 
     theDocument.orders.push_back(std::move(order));

@@ -2,6 +2,7 @@
 
 #include "exports/document.h"
 #include "exports/host_text.h"
+#include "geometry/bounding_box.h"
 #include "geometry/line_segment.h"
 
 #include <memory>
@@ -54,29 +55,20 @@ int32_t AddMountingPart(ElementPart& element, const it_char16* setName, int32_t 
     part.setValue2 = values[1];
     part.partName = FromHost(setName);
 
-    // The box starts from these constants, not from the first point.
-    int32_t minX = 1000000;
-    int32_t minY = 1000000;
-    int32_t maxX = -1000000;
-    int32_t maxY = -1000000;
+    // The box starts from these corners, not from the first point.
+    ItUnitechnik::BoundingBox box(Point2d(1000000, 1000000), Point2d(-1000000, -1000000));
     if (valueCount > 2) {
         // A count that is not 2 plus a multiple of 4 is rounded up to whole pieces.
         const uint32_t pieces = (static_cast<uint32_t>(valueCount) - 3u) / 4u + 1u;
         for (uint32_t k = 0; k < pieces; ++k) {
             const int32_t* piece = values + 2 + 4 * k;
-            for (int end = 0; end < 2; ++end) {
-                const int32_t x = piece[2 * end];
-                const int32_t y = piece[2 * end + 1];
-                minX = x < minX ? x : minX;
-                maxX = x > maxX ? x : maxX;
-                minY = y < minY ? y : minY;
-                maxY = y > maxY ? y : maxY;
-            }
+            box.widen(Point2d(piece[0], piece[1]));
+            box.widen(Point2d(piece[2], piece[3]));
             AddStraightPiece(part, piece[0], piece[1], piece[2], piece[3]);
         }
     }
-    part.partWidth = Distance(minX, maxX);
-    part.partHeight = Distance(minY, maxY);
+    part.partWidth = Distance(box.min.x, box.max.x);
+    part.partHeight = Distance(box.min.y, box.max.y);
     // The product wraps in 32 bits before it becomes square metres.
     const int32_t area = static_cast<int32_t>(part.partWidth * part.partHeight);
     part.partArea = static_cast<double>(area) / 1000000.0;

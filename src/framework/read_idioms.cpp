@@ -125,4 +125,11 @@ bool ExpectLine(Archive& ar, const wchar_t* tag)
     return true;
 }
 
+void Rewind(Archive& ar, std::streampos at)
+{
+    ar.seekg(at);
+    ar.valid = true;
+    ar.clear();
+}
+
 } // namespace ItUnitechnik

@@ -46,6 +46,7 @@ int WideToInt(const std::wstring& text);
 #include "framework/archive.h"
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace ItUnitechnik {
@@ -55,6 +56,12 @@ namespace ItUnitechnik {
 // cleared and the result is false; a wrong tag spoils the rest of the read.
 bool ExpectToken(Archive& ar, const wchar_t* tag);
 bool ExpectLine(Archive& ar, const wchar_t* tag);
+
+// Back to where an optional part began: the try is forgotten, flag and
+// stream state included. The seek does nothing on a stream that failed by
+// parsing: only the state is cleared then, and reading goes on where it
+// stopped.
+void Rewind(Archive& ar, std::streampos at);
 
 // The collection read: `count` times a fresh element from `make` reads
 // itself, and only an element after which the stream is healthy is kept. A
@@ -67,7 +74,7 @@ void ReadElements(Archive& ar, std::int32_t count, Make make, std::vector<T>& in
         T element = make();
         element.Read(ar);
         if (Healthy(ar)) {
-            into.push_back(element);
+            into.push_back(std::move(element));
         }
     }
 }

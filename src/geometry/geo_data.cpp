@@ -7,6 +7,8 @@
 #include "geometry/line_segment.h"
 #include "geometry/polygon.h"
 
+#include <utility>
+
 namespace ItUnitechnik {
 namespace {
 
@@ -27,9 +29,9 @@ std::unique_ptr<Curve> MakeCurve(wchar_t kind, std::int32_t version)
     }
 }
 
-Curve* CloneOf(const Curve* curve)
+std::unique_ptr<Curve> CloneOf(const std::unique_ptr<Curve>& curve)
 {
-    return curve != nullptr ? curve->clone().release() : nullptr;
+    return curve != nullptr ? curve->clone() : nullptr;
 }
 
 } // namespace
@@ -37,7 +39,7 @@ Curve* CloneOf(const Curve* curve)
 GeoData::GeoData(std::int32_t formatVersion) : version(formatVersion) {}
 
 GeoData::GeoData(std::int32_t formatVersion, wchar_t kind, std::unique_ptr<Curve> ownedCurve)
-    : version(formatVersion), elementKind(kind), curve(ownedCurve.release())
+    : version(formatVersion), elementKind(kind), curve(std::move(ownedCurve))
 {
 }
 
@@ -50,49 +52,25 @@ GeoData& GeoData::operator=(const GeoData& other)
 {
     // The clone is taken before the old curve goes, so assigning an element
     // to itself keeps its curve.
-    Curve* copy = CloneOf(other.curve);
+    std::unique_ptr<Curve> copy = CloneOf(other.curve);
     version = other.version;
-    delete curve;
-    curve = nullptr;
     elementKind = other.elementKind;
-    curve = copy;
+    curve = std::move(copy);
     return *this;
 }
 
-GeoData::GeoData(GeoData&& other) noexcept
-    : Serializable(other), version(other.version), elementKind(other.elementKind), curve(other.curve)
-{
-    other.curve = nullptr;
-}
-
-GeoData& GeoData::operator=(GeoData&& other) noexcept
-{
-    if (this != &other) {
-        version = other.version;
-        elementKind = other.elementKind;
-        delete curve;
-        curve = other.curve;
-        other.curve = nullptr;
-    }
-    return *this;
-}
-
-GeoData::~GeoData()
-{
-    delete curve;
-    curve = nullptr;
-}
+GeoData::GeoData(GeoData&& other) noexcept = default;
+GeoData& GeoData::operator=(GeoData&& other) noexcept = default;
+GeoData::~GeoData() = default;
 
 bool GeoData::Read(Archive& ar)
 {
-    delete curve;
-    curve = nullptr;
+    curve.reset();
     ar >> elementKind;
-    std::unique_ptr<Curve> made = MakeCurve(elementKind, version);
-    if (!made) {
+    curve = MakeCurve(elementKind, version);
+    if (!curve) {
         return false;
     }
-    curve = made.release();
     curve->Read(ar); // only the stream decides
     return Healthy(ar);
 }

@@ -34,7 +34,7 @@ public:
 
     std::int32_t version = 0;   // not written; handed on to the curve that Read makes
     wchar_t elementKind = 0;    // first field
-    Curve* curve = nullptr;     // owned; the rest of the line
+    std::unique_ptr<Curve> curve; // the rest of the line
 };
 
 } // namespace ItUnitechnik

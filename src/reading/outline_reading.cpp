@@ -33,7 +33,7 @@ void Loader::LoadGeoData(GeoData& element)
     case L'S': {
         auto owned = std::make_unique<LineSegment>(version);
         LineSegment& line = *owned;
-        element.curve = owned.release();
+        element.curve = std::move(owned);
         LoadPoint2d(line.start, version);
         in_.Blank();
         LoadPoint2d(line.end, version);
@@ -44,7 +44,7 @@ void Loader::LoadGeoData(GeoData& element)
     case L'K': {
         auto owned = std::make_unique<Circle>(version);
         Circle& circle = *owned;
-        element.curve = owned.release();
+        element.curve = std::move(owned);
         LoadPoint2d(circle.centre, version);
         in_.Blank();
         circle.radius = in_.UInt<std::int32_t>(5);
@@ -55,7 +55,7 @@ void Loader::LoadGeoData(GeoData& element)
     case L'B': {
         auto owned = std::make_unique<Arc>(version);
         Arc& arc = *owned;
-        element.curve = owned.release();
+        element.curve = std::move(owned);
         LoadPoint2d(arc.centre, version);
         in_.Blank();
         arc.radius = in_.UInt<std::int32_t>(5);
@@ -71,7 +71,7 @@ void Loader::LoadGeoData(GeoData& element)
     case L'P': {
         auto owned = std::make_unique<Polygon>(version);
         Polygon& polygon = *owned;
-        element.curve = owned.release();
+        element.curve = std::move(owned);
         const std::size_t count = Count(in_.UInt<std::int64_t>(1));
         in_.Blank();
         for (std::size_t i = 0; i < count; ++i) {

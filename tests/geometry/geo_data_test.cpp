@@ -69,7 +69,7 @@ TEST(GeoData, ReadMakesTheCurveOfEachKindWithItsVersion)
     GeoData segment(600);
     EXPECT_TRUE(segment.Read(s.archive));
     EXPECT_EQ(segment.elementKind, L'S');
-    auto* line = dynamic_cast<LineSegment*>(segment.curve);
+    auto* line = dynamic_cast<LineSegment*>(segment.curve.get());
     ASSERT_NE(line, nullptr);
     EXPECT_EQ(line->version, 600);
     EXPECT_EQ(line->end, Point2d(3, 4));
@@ -77,15 +77,15 @@ TEST(GeoData, ReadMakesTheCurveOfEachKindWithItsVersion)
     GeoData circle(601);
     EXPECT_TRUE(circle.Read(s.archive));
     EXPECT_EQ(circle.elementKind, L'K');
-    ASSERT_NE(dynamic_cast<Circle*>(circle.curve), nullptr);
-    EXPECT_EQ(dynamic_cast<Arc*>(circle.curve), nullptr);
+    ASSERT_NE(dynamic_cast<Circle*>(circle.curve.get()), nullptr);
+    EXPECT_EQ(dynamic_cast<Arc*>(circle.curve.get()), nullptr);
     EXPECT_EQ(circle.curve->version, 601);
-    EXPECT_EQ(dynamic_cast<Circle*>(circle.curve)->radius, 50);
+    EXPECT_EQ(dynamic_cast<Circle*>(circle.curve.get())->radius, 50);
 
     GeoData arc(502);
     EXPECT_TRUE(arc.Read(s.archive));
     EXPECT_EQ(arc.elementKind, L'B');
-    auto* arcCurve = dynamic_cast<Arc*>(arc.curve);
+    auto* arcCurve = dynamic_cast<Arc*>(arc.curve.get());
     ASSERT_NE(arcCurve, nullptr);
     EXPECT_EQ(arcCurve->version, 502);
     EXPECT_EQ(arcCurve->endAngle, 90);
@@ -93,7 +93,7 @@ TEST(GeoData, ReadMakesTheCurveOfEachKindWithItsVersion)
     GeoData polygon(500);
     EXPECT_TRUE(polygon.Read(s.archive));
     EXPECT_EQ(polygon.elementKind, L'P');
-    auto* chain = dynamic_cast<Polygon*>(polygon.curve);
+    auto* chain = dynamic_cast<Polygon*>(polygon.curve.get());
     ASSERT_NE(chain, nullptr);
     EXPECT_EQ(chain->version, 500);
     EXPECT_EQ(chain->points.size(), 2u);
@@ -126,7 +126,7 @@ TEST(GeoData, ReadFreesTheOldCurveFirstEvenForAnUnknownKind)
     StringArchive s(L"K 00100 00200 00050 0000\nZ");
     GeoData element = Segment(502, Point2d(1, 1), Point2d(2, 2));
     EXPECT_TRUE(element.Read(s.archive));
-    EXPECT_NE(dynamic_cast<Circle*>(element.curve), nullptr);
+    EXPECT_NE(dynamic_cast<Circle*>(element.curve.get()), nullptr);
     EXPECT_FALSE(element.Read(s.archive));
     EXPECT_EQ(element.curve, nullptr);
 }
@@ -146,12 +146,12 @@ TEST(GeoData, CopyClonesTheCurve)
     EXPECT_EQ(copy.version, 600);
     EXPECT_EQ(copy.elementKind, L'S');
     ASSERT_NE(copy.curve, nullptr);
-    EXPECT_NE(copy.curve, original.curve);
-    auto* line = dynamic_cast<LineSegment*>(copy.curve);
+    EXPECT_NE(copy.curve.get(), original.curve.get());
+    auto* line = dynamic_cast<LineSegment*>(copy.curve.get());
     ASSERT_NE(line, nullptr);
     EXPECT_EQ(line->start, Point2d(1, 2));
     line->start.x = 99;
-    EXPECT_EQ(dynamic_cast<LineSegment*>(original.curve)->start.x, 1);
+    EXPECT_EQ(dynamic_cast<LineSegment*>(original.curve.get())->start.x, 1);
 }
 
 TEST(GeoData, CopyOfANullCurveIsNull)
@@ -171,8 +171,8 @@ TEST(GeoData, AssignmentReplacesTheCurveByAClone)
     target = source;
     EXPECT_EQ(target.version, 600);
     EXPECT_EQ(target.elementKind, L'B');
-    EXPECT_NE(target.curve, source.curve);
-    EXPECT_NE(dynamic_cast<Arc*>(target.curve), nullptr);
+    EXPECT_NE(target.curve.get(), source.curve.get());
+    EXPECT_NE(dynamic_cast<Arc*>(target.curve.get()), nullptr);
 
     GeoData empty(7);
     target = empty;
@@ -186,7 +186,7 @@ TEST(GeoData, SelfAssignmentKeepsTheCurve)
     GeoData element = Segment(600, Point2d(5, 6), Point2d(7, 8));
     GeoData& alias = element;
     element = alias;
-    auto* line = dynamic_cast<LineSegment*>(element.curve);
+    auto* line = dynamic_cast<LineSegment*>(element.curve.get());
     ASSERT_NE(line, nullptr);
     EXPECT_EQ(line->start, Point2d(5, 6));
     EXPECT_EQ(line->end, Point2d(7, 8));
@@ -204,11 +204,11 @@ TEST(GeoData, VectorGrowthKeepsEveryCurveItsOwn)
     copies.resize(20);
     elements = copies;
     ASSERT_EQ(elements.size(), 20u);
-    EXPECT_NE(dynamic_cast<Circle*>(elements[0].curve), nullptr);
-    EXPECT_EQ(dynamic_cast<LineSegment*>(elements[9].curve)->start.x, 8);
-    EXPECT_EQ(dynamic_cast<LineSegment*>(elements[10].curve)->start.x, 10);
+    EXPECT_NE(dynamic_cast<Circle*>(elements[0].curve.get()), nullptr);
+    EXPECT_EQ(dynamic_cast<LineSegment*>(elements[9].curve.get())->start.x, 8);
+    EXPECT_EQ(dynamic_cast<LineSegment*>(elements[10].curve.get())->start.x, 10);
     for (std::size_t i = 0; i < elements.size(); ++i) {
-        EXPECT_NE(elements[i].curve, copies[i].curve);
+        EXPECT_NE(elements[i].curve.get(), copies[i].curve.get());
     }
 }
 
@@ -239,21 +239,21 @@ TEST(GeoData, ReadsBackEachKind)
     for (GeoData& element : read) {
         EXPECT_TRUE(element.Read(in.archive));
     }
-    auto* readArc = dynamic_cast<Arc*>(read[0].curve);
+    auto* readArc = dynamic_cast<Arc*>(read[0].curve.get());
     ASSERT_NE(readArc, nullptr);
     EXPECT_EQ(readArc->centre, Point2d(-5, 5));
     EXPECT_EQ(readArc->radius, 9);
     EXPECT_EQ(readArc->startAngle, 30);
     EXPECT_EQ(readArc->endAngle, 300);
-    auto* readCircle = dynamic_cast<Circle*>(read[1].curve);
+    auto* readCircle = dynamic_cast<Circle*>(read[1].curve.get());
     ASSERT_NE(readCircle, nullptr);
     EXPECT_EQ(readCircle->centre, Point2d(7, -7));
     EXPECT_EQ(readCircle->radius, 3);
-    auto* readPolygon = dynamic_cast<Polygon*>(read[2].curve);
+    auto* readPolygon = dynamic_cast<Polygon*>(read[2].curve.get());
     ASSERT_NE(readPolygon, nullptr);
     EXPECT_EQ(readPolygon->points, (std::vector<Point2d>{Point2d(1, 2), Point2d(-3, 4)}));
     EXPECT_EQ(readPolygon->segmentFlags, std::vector<std::int32_t>{12});
-    auto* readLine = dynamic_cast<LineSegment*>(read[3].curve);
+    auto* readLine = dynamic_cast<LineSegment*>(read[3].curve.get());
     ASSERT_NE(readLine, nullptr);
     EXPECT_EQ(readLine->start, Point2d(-1, -2));
     EXPECT_EQ(readLine->end, Point2d(3, 4));

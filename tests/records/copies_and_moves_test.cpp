@@ -925,19 +925,19 @@ TEST(CopiesAndMoves, AGeoDataMoveHandsItsCurveOver)
 {
     static_assert(std::is_nothrow_move_constructible<GeoData>::value, "a vector must move it when it grows");
     GeoData piece = Piece(600, 1, 2, 3, 4);
-    const Curve* curve = piece.curve;
+    const Curve* curve = piece.curve.get();
     GeoData moved(std::move(piece));
-    EXPECT_EQ(moved.curve, curve);
+    EXPECT_EQ(moved.curve.get(), curve);
     EXPECT_EQ(piece.curve, nullptr);
     EXPECT_EQ(moved.elementKind, L'S');
     EXPECT_EQ(moved.version, 600);
     GeoData assigned(600);
     assigned = std::move(moved);
-    EXPECT_EQ(assigned.curve, curve);
+    EXPECT_EQ(assigned.curve.get(), curve);
     EXPECT_EQ(moved.curve, nullptr);
     GeoData& same = assigned;
     assigned = std::move(same);
-    EXPECT_EQ(assigned.curve, curve);
+    EXPECT_EQ(assigned.curve.get(), curve);
 }
 
 } // namespace

@@ -190,14 +190,14 @@ public:
 
     void Curve(const char* name, GeoData& element)
     {
-        curves.insert(element.curve);
-        if (auto* arc = dynamic_cast<Arc*>(element.curve)) {
+        curves.insert(element.curve.get());
+        if (auto* arc = dynamic_cast<Arc*>(element.curve.get())) {
             Nested(std::string(name) + ":Arc", *arc);
-        } else if (auto* circle = dynamic_cast<Circle*>(element.curve)) {
+        } else if (auto* circle = dynamic_cast<Circle*>(element.curve.get())) {
             Nested(std::string(name) + ":Circle", *circle);
-        } else if (auto* line = dynamic_cast<LineSegment*>(element.curve)) {
+        } else if (auto* line = dynamic_cast<LineSegment*>(element.curve.get())) {
             Nested(std::string(name) + ":LineSegment", *line);
-        } else if (auto* polygon = dynamic_cast<Polygon*>(element.curve)) {
+        } else if (auto* polygon = dynamic_cast<Polygon*>(element.curve.get())) {
             Nested(std::string(name) + ":Polygon", *polygon);
         } else {
             lines.push_back(path_ + name + ":none");

@@ -2,11 +2,6 @@
 
 #include "framework/archive.h"
 #include "framework/field_forms.h"
-#include "framework/read_idioms.h"
-
-#include <locale>
-#include <sstream>
-#include <utility>
 
 namespace ItUnitechnik {
 
@@ -29,77 +24,17 @@ ElementPart::ElementPart()
     textB8 = L"        ";
 }
 
-void ElementPart::Changed()
+void ElementPart::setVersion(std::int16_t newVersion)
 {
-    updateExtents();
-}
-
-void ElementPart::SetExtents(const BoundingBox& box)
-{
-    extentX = static_cast<std::int32_t>(static_cast<std::uint32_t>(box.max.x)
-                                        - static_cast<std::uint32_t>(box.min.x));
-    extentY = static_cast<std::int32_t>(static_cast<std::uint32_t>(box.max.y)
-                                        - static_cast<std::uint32_t>(box.min.y));
-}
-
-void ElementPart::recomputeExtents()
-{
-    contourBox_ = contourData.boundingBox();
-    contourBoxCount_ = contourData.contours.size();
-    SetExtents(contourBox_);
-}
-
-void ElementPart::updateExtents()
-{
-    if (contourBoxCount_ != contourData.contours.size()) {
-        recomputeExtents();
-        return;
-    }
-    SetExtents(contourBox_);
-}
-
-void ElementPart::ExpectContour(const Contour& contour)
-{
-    if (contourBoxCount_ == contourData.contours.size()) {
-        contourBox_.widen(contour.boundingBox());
-        ++contourBoxCount_;
-    }
-}
-
-ItCollectionImpl<std::vector<Contour>>::iterator ElementPart::Insert(
-    ItCollectionImpl<std::vector<Contour>>::iterator position, const Contour& contour)
-{
-    ExpectContour(contour);
-    return ItCollectionImpl<std::vector<Contour>>::Insert(position, contour);
-}
-
-void ElementPart::Add(const Contour& contour)
-{
-    ExpectContour(contour);
-    ItCollectionImpl<std::vector<Contour>>::Add(contour);
-}
-
-void ElementPart::appendContour(Contour contour)
-{
-    contour.version = contourData.version;
-    contour.contourNumber = static_cast<std::int32_t>(contourData.contours.size()) + 1;
-    ExpectContour(contour);
-    contourData.contours.push_back(std::move(contour));
-    updateExtents();
-}
-
-void ElementPart::appendRodstock(Rodstock rodstock)
-{
-    rodstockData.appendRodstock(rodstock);
-    updateExtents();
-}
-
-void ElementPart::appendCutout(Cutout cutout)
-{
-    cutout.version = cutoutData.version;
-    cutout.cutoutNumber = static_cast<std::int32_t>(cutoutData.cutouts.size()) + 1;
-    cutoutData.cutouts.push_back(std::move(cutout));
-    updateExtents();
+    version = newVersion;
+    contourData.version = newVersion;
+    cutoutData.version = newVersion;
+    mountingPartData.version = newVersion;
+    rodstockData.version = newVersion;
+    reinforcement.version = newVersion;
+    reinforcement.externalIrons.version = newVersion;
+    bracedGirderData.version = newVersion;
+    externalIronData.version = newVersion;
 }
 
 bool ElementPart::HasLongLines() const
@@ -111,11 +46,35 @@ bool ElementPart::Write(Archive& ar)
 {
     const RecordScope scope(ar, this);
     ar << Tag("SLABDATE");
-
     ar << UInt(3, version, "version") << EndLine;
+    WriteLineA(ar);
+    WriteLineB(ar);
+    if (version == 502) {
+        WritePlasters(ar);
+    }
+    if (version >= 502) {
+        WriteConcreteLayers(ar);
+    }
+    WriteLineC(ar);
+    if (version < 503) {
+        WriteEdges(ar);
+    }
+    WriteLineD(ar);
+    WriteLineE(ar);
+    if (version >= 600) {
+        WriteLineF(ar);
+        WriteLinesG(ar);
+    }
+    ar << Tag("END");
+    WriteNestedRecords(ar);
+    ar << Tag("END SLABDATE");
+    return Healthy(ar);
+}
 
-    // Line A. From 600 the number is a left-aligned text, and the left
-    // adjustment it leaves puts the zeros of the next two codes behind them.
+void ElementPart::WriteLineA(Archive& ar)
+{
+    // From 600 the number is a left-aligned text, and the left adjustment
+    // it leaves puts the zeros of the next two codes behind them.
     if (version < 600) {
         ar << UInt(3, elementNumber, "elementNumber");
     } else {
@@ -154,8 +113,10 @@ bool ElementPart::Write(Archive& ar)
         }
     }
     ar << EndLine;
+}
 
-    // Line B.
+void ElementPart::WriteLineB(Archive& ar)
+{
     ar << Real(2, 3, elementMeasure, "elementMeasure");
     ar << Blank;
     ar << ZText(3, codeB1, "codeB1");
@@ -184,20 +145,24 @@ bool ElementPart::Write(Archive& ar)
         ar << UInt(4, secondThickness, "secondThickness");
     }
     ar << EndLine;
+}
 
-    if (version == 502) {
-        firstPlaster.Write(ar);
-        ar << Blank;
-        secondPlaster.Write(ar);
-        ar << EndLine;
-    }
+void ElementPart::WritePlasters(Archive& ar)
+{
+    firstPlaster.Write(ar);
+    ar << Blank;
+    secondPlaster.Write(ar);
+    ar << EndLine;
+}
 
-    if (version >= 502) {
-        ar << UInt(2, static_cast<std::uint32_t>(concreteLayers.size()), "concreteLayers") << EndLine;
-        WriteElements(ar, concreteLayers);
-    }
+void ElementPart::WriteConcreteLayers(Archive& ar)
+{
+    ar << UInt(2, static_cast<std::uint32_t>(concreteLayers.size()), "concreteLayers") << EndLine;
+    WriteElements(ar, concreteLayers);
+}
 
-    // Line C.
+void ElementPart::WriteLineC(Archive& ar)
+{
     ar << UInt(5, extentX, "extentX");
     ar << Blank << UInt(5, extentY, "extentY");
     ar << Blank << SInt(4, valueC1, "valueC1");
@@ -217,15 +182,18 @@ bool ElementPart::Write(Archive& ar)
         ar << Blank << UInt(3, valueC12, "valueC12");
     }
     ar << EndLine;
+}
 
-    if (version < 503) {
-        firstEdge.Write(ar);
-        ar << Blank;
-        secondEdge.Write(ar);
-        ar << EndLine;
-    }
+void ElementPart::WriteEdges(Archive& ar)
+{
+    firstEdge.Write(ar);
+    ar << Blank;
+    secondEdge.Write(ar);
+    ar << EndLine;
+}
 
-    // Line D.
+void ElementPart::WriteLineD(Archive& ar)
+{
     ar << RText(8, textD8, "textD8");
     ar << Blank;
     ar << RText(4, textD4, "textD4");
@@ -237,8 +205,10 @@ bool ElementPart::Write(Archive& ar)
     ar << UInt(2, valueD3, "valueD3");
     ar << Blank;
     ar << RText(30, elementText30, "elementText30") << EndLine;
+}
 
-    // Line E.
+void ElementPart::WriteLineE(Archive& ar)
+{
     if (version < 600) {
         firstPoint.Write(ar);
         ar << Blank;
@@ -246,41 +216,55 @@ bool ElementPart::Write(Archive& ar)
         ar << Blank;
         thirdPoint.Write(ar);
     } else {
-        ar << SInt(6, firstPoint.x, "firstPoint.x") << Blank << SInt(6, firstPoint.y, "firstPoint.y") << Blank << SInt(6, firstPoint.z, "firstPoint.z");
+        ar << SInt(6, firstPoint.x, "firstPoint.x");
         ar << Blank;
-        ar << SInt(6, secondPoint.x, "secondPoint.x") << Blank << SInt(6, secondPoint.y, "secondPoint.y") << Blank << SInt(6, secondPoint.z, "secondPoint.z");
+        ar << SInt(6, firstPoint.y, "firstPoint.y");
         ar << Blank;
-        ar << SInt(6, thirdPoint.x, "thirdPoint.x") << Blank << SInt(6, thirdPoint.y, "thirdPoint.y") << Blank << SInt(6, thirdPoint.z, "thirdPoint.z");
+        ar << SInt(6, firstPoint.z, "firstPoint.z");
+        ar << Blank;
+        ar << SInt(6, secondPoint.x, "secondPoint.x");
+        ar << Blank;
+        ar << SInt(6, secondPoint.y, "secondPoint.y");
+        ar << Blank;
+        ar << SInt(6, secondPoint.z, "secondPoint.z");
+        ar << Blank;
+        ar << SInt(6, thirdPoint.x, "thirdPoint.x");
+        ar << Blank;
+        ar << SInt(6, thirdPoint.y, "thirdPoint.y");
+        ar << Blank;
+        ar << SInt(6, thirdPoint.z, "thirdPoint.z");
     }
     ar << EndLine;
+}
 
-    if (version >= 600) {
-        // Line F.
-        ar << SInt(5, fourthPoint.x, "fourthPoint.x");
-        ar << Blank;
-        ar << SInt(5, fourthPoint.y, "fourthPoint.y");
-        ar << Blank;
-        ar << SInt(5, fourthPoint.z, "fourthPoint.z");
-        ar << Blank;
-        ar << UInt(3, valueF1, "valueF1") << EndLine;
+void ElementPart::WriteLineF(Archive& ar)
+{
+    ar << SInt(5, fourthPoint.x, "fourthPoint.x");
+    ar << Blank;
+    ar << SInt(5, fourthPoint.y, "fourthPoint.y");
+    ar << Blank;
+    ar << SInt(5, fourthPoint.z, "fourthPoint.z");
+    ar << Blank;
+    ar << UInt(3, valueF1, "valueF1") << EndLine;
+}
 
-        // Lines G.
-        ar << RText(20, slabInfo1, "slabInfo1") << EndLine;
-        ar << RText(20, slabInfo2, "slabInfo2") << EndLine;
-        ar << RText(20, slabInfo3, "slabInfo3") << EndLine;
-        ar << RText(20, slabInfo4, "slabInfo4") << EndLine;
-    }
+void ElementPart::WriteLinesG(Archive& ar)
+{
+    ar << RText(20, slabInfo1, "slabInfo1") << EndLine;
+    ar << RText(20, slabInfo2, "slabInfo2") << EndLine;
+    ar << RText(20, slabInfo3, "slabInfo3") << EndLine;
+    ar << RText(20, slabInfo4, "slabInfo4") << EndLine;
+}
 
-    ar << Tag("END");
-
+void ElementPart::WriteNestedRecords(Archive& ar)
+{
     if (!layers.empty()) {
         // The layers stand alone: none of the element's own outline or
         // reinforcement records is written.
         for (Layer& layer : layers) {
             layer.Write(ar);
         }
-        ar << Tag("END SLABDATE");
-        return Healthy(ar);
+        return;
     }
 
     contourData.Write(ar);
@@ -311,219 +295,6 @@ bool ElementPart::Write(Archive& ar)
             externalIronData.Write(ar);
         }
     }
-
-    ar << Tag("END SLABDATE");
-    return Healthy(ar);
-}
-
-bool ElementPart::ReadOptional(Archive& ar, Serializable& record) const
-{
-    const std::wistream::pos_type start = ar.tellg();
-    record.Read(ar);
-    if (Healthy(ar)) {
-        return true;
-    }
-    if (version < 600) {
-        return false;
-    }
-    Rewind(ar, start);
-    return true;
-}
-
-void ElementPart::Rewind(Archive& ar, std::wistream::pos_type position)
-{
-    // The seek does nothing on a stream that failed by parsing; the state is
-    // cleared all the same.
-    ar.seekg(position);
-    ar.valid = true;
-    ar.clear();
-}
-
-bool ElementPart::Read(Archive& ar)
-{
-    // What is read lands straight in the vectors: the kept box no longer
-    // stands for the contours.
-    contourBoxCount_ = static_cast<std::size_t>(-1);
-    if (!ExpectToken(ar, L"SLABDATE")) {
-        return false;
-    }
-    ar >> version;
-
-    // Line A.
-    if (version < 600) {
-        ar >> elementNumber;
-    } else {
-        elementNumberText = ReadToken(ar);
-        elementNumber = static_cast<std::int16_t>(WideToInt(elementNumberText));
-    }
-    codeA1 = ReadToken(ar);
-    codeA2 = ReadToken(ar);
-    ar >> valueA1 >> valueA2;
-    codeA3 = ReadToken(ar);
-    ar >> valueA3 >> valueA4 >> valueA5;
-    if (version >= 501 || version == 5) {
-        ar >> valueA6 >> valueA7;
-        if (version < 600) {
-            codeA4 = ReadToken(ar);
-        } else {
-            SkipChar(ar);
-            GetText(ar, 40, textA40);
-        }
-    }
-    SkipLine(ar);
-
-    // Line B.
-    ar >> elementMeasure;
-    codeB1 = ReadToken(ar);
-    codeB2 = ReadToken(ar);
-    SkipChar(ar);
-    GetText(ar, 8, textB8);
-    ar >> realB1 >> layerProductSum >> thickness >> doubleWallGap;
-    codeB3 = ReadToken(ar);
-    codeB4 = ReadToken(ar);
-    ar >> valueB1 >> valueB2;
-    if (HasLongLines()) {
-        ar >> secondThickness;
-    }
-    SkipLine(ar);
-
-    if (version == 502) {
-        firstPlaster.Read(ar);
-        secondPlaster.Read(ar);
-    }
-
-    if (version >= 502) {
-        std::int32_t count = 0;
-        ar >> count;
-        ReadElements(ar, count, [&] { return ConcreteLayer(version); }, concreteLayers);
-        SkipLine(ar);
-    }
-
-    // Line C. The optional pair is there when the line goes on behind the
-    // tenth value.
-    ar >> extentX >> extentY >> valueC1 >> valueC2 >> valueC3 >> valueC4 >> valueC5 >> valueC6
-        >> valueC7 >> valueC8;
-    elementVector.Read(ar);
-    SkipChar(ar);
-    {
-        std::wistringstream rest(ReadLine(ar));
-        rest.imbue(std::locale::classic());
-        rest >> valueC9 >> valueC10;
-        if (!rest.eof()) {
-            rest >> valueC11 >> valueC12;
-        }
-    }
-
-    if (version <= 502) {
-        firstEdge.Read(ar);
-        secondEdge.Read(ar);
-        SkipLine(ar);
-    }
-
-    // Line D.
-    GetText(ar, 8, textD8);
-    SkipChar(ar);
-    GetText(ar, 4, textD4);
-    ar >> valueD1 >> valueD2 >> valueD3;
-    SkipChar(ar);
-    elementText30 = ReadLine(ar);
-
-    // Line E, read by the points' own reader at every version.
-    firstPoint.Read(ar);
-    secondPoint.Read(ar);
-    thirdPoint.Read(ar);
-    SkipLine(ar);
-
-    if (version >= 600) {
-        fourthPoint.Read(ar);
-        SkipChar(ar);
-        std::wstring text;
-        GetText(ar, 3, text);
-        valueF1 = WideToInt(text);
-        SkipLine(ar);
-        slabInfo1 = ReadLine(ar);
-        slabInfo2 = ReadLine(ar);
-        slabInfo3 = ReadLine(ar);
-        slabInfo4 = ReadLine(ar);
-    }
-
-    // A wrong end of the element's own lines leaves `valid` set: the order
-    // goes on with its next element.
-    if (!Matches(ReadToken(ar), L"END")) {
-        return false;
-    }
-    SkipLine(ar);
-
-    if (LayerFollows(ar)) {
-        // The layers run up to the first record that is no layer, normally
-        // the closing tag; that failure is no failure of the element.
-        for (;;) {
-            const std::wistream::pos_type start = ar.tellg();
-            Layer layer;
-            layer.Read(ar);
-            if (!Healthy(ar)) {
-                Rewind(ar, start);
-                break;
-            }
-            layers.push_back(layer);
-        }
-    } else if (!ReadOutlineAndReinforcement(ar)) {
-        return false;
-    }
-
-    if (!ExpectLine(ar, L"END SLABDATE")) {
-        return false;
-    }
-    return Healthy(ar);
-}
-
-bool ElementPart::LayerFollows(Archive& ar)
-{
-    const std::wistream::pos_type start = ar.tellg();
-    const bool found = Matches(ReadToken(ar), L"LAYER___");
-    Rewind(ar, start);
-    return found;
-}
-
-bool ElementPart::ReadOutlineAndReinforcement(Archive& ar)
-{
-    // The outline records. From 600 a missing list of openings or of parts
-    // is passed over: seek back, make the stream whole again, go on.
-    // Judged by the stream and `valid`, as every nested read is: a list of
-    // contours whose closing token is wrong fails its own Read but leaves
-    // both alone, and the element goes on.
-    contourData.Read(ar);
-    if (!Healthy(ar)) {
-        return false;
-    }
-    if (!ReadOptional(ar, cutoutData) || !ReadOptional(ar, mountingPartData)) {
-        return false;
-    }
-
-    // The reader looks for the mats first, unlike the writer.
-    const std::wistream::pos_type beforeReinforcement = ar.tellg();
-    reinforcement.Read(ar);
-    if (!Healthy(ar)) {
-        Rewind(ar, beforeReinforcement);
-        if (!ReadOptional(ar, rodstockData) || !ReadOptional(ar, bracedGirderData)) {
-            return false;
-        }
-        const std::wistream::pos_type beforeIrons = ar.tellg();
-        externalIronData.Read(ar);
-        if (Healthy(ar)) {
-            SkipLine(ar);
-            hasExternalIron = true;
-        } else {
-            // The skip comes before the stream is made whole, so it does
-            // nothing after a failure by parsing.
-            ar.seekg(beforeIrons);
-            SkipLine(ar);
-            ar.valid = true;
-            ar.clear();
-            hasExternalIron = false;
-        }
-    }
-    return true;
 }
 
 } // namespace ItUnitechnik

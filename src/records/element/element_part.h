@@ -99,6 +99,9 @@ public:
     // Hands a loose bar to rodstockData, which numbers it, and recomputes
     // the extents.
     void appendRodstock(Rodstock rodstock);
+    // The version of a new element, given to the element and to each record
+    // it holds that has a version of its own (the mats' external irons too).
+    void setVersion(std::int16_t newVersion);
 
     std::int16_t version = 502;     // line 2
     std::int16_t elementNumber = 12; // line A below 600
@@ -191,12 +194,24 @@ private:
     // Reads a nested record that may be absent from 600 on; false when the
     // element must give up.
     bool ReadOptional(Archive& ar, Serializable& record) const;
-    // Back to a remembered place, with `valid` set and the state cleared.
-    static void Rewind(Archive& ar, std::wistream::pos_type position);
     // Whether the next token is "LAYER___"; the stream is left where it was.
     static bool LayerFollows(Archive& ar);
     // Outline and reinforcement records; false when the element must give up.
     bool ReadOutlineAndReinforcement(Archive& ar);
+
+    // The lines of the record, one function a line, in the order they stand.
+    void WriteLineA(Archive& ar);
+    void WriteLineB(Archive& ar);
+    void WritePlasters(Archive& ar);       // 502 only
+    void WriteConcreteLayers(Archive& ar); // from 502
+    void WriteLineC(Archive& ar);
+    void WriteEdges(Archive& ar);          // below 503
+    void WriteLineD(Archive& ar);
+    void WriteLineE(Archive& ar);
+    void WriteLineF(Archive& ar);          // from 600
+    void WriteLinesG(Archive& ar);         // from 600
+    // Behind "END": the layers, or the outline and reinforcement records.
+    void WriteNestedRecords(Archive& ar);
 };
 
 } // namespace ItUnitechnik

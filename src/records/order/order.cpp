@@ -103,6 +103,15 @@ Order& Order::operator=(Order&& other) noexcept
     return *this;
 }
 
+void Order::setVersion(std::int16_t newVersion)
+{
+    version = newVersion;
+    date.version = newVersion;
+    for (ElementPart& element : elementParts) {
+        element.setVersion(newVersion);
+    }
+}
+
 bool Order::Write(Archive& ar)
 {
     const RecordScope scope(ar, this);

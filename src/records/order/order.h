@@ -26,6 +26,10 @@ public:
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
+    // The version of a new order, given to the order, its date and each of
+    // its elements with everything below them: the one place it is handed
+    // down.
+    void setVersion(std::int16_t newVersion);
 
     std::int16_t version = 502;    // line 2; copied into `date`
     std::wstring orderNumber;      // line 3, 8 wide below 600, 20 from 600

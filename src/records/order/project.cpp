@@ -7,14 +7,6 @@
 
 namespace ItUnitechnik {
 
-bool ReadTextLines(Archive& ar, std::initializer_list<std::wstring*> members)
-{
-    for (std::wstring* member : members) {
-        *member = ReadLine(ar);
-    }
-    return Healthy(ar);
-}
-
 bool Project::Read(Archive& ar)
 {
     return ReadTextLines(ar, {&projectText1, &projectText2, &projectText3, &projectText4});

@@ -2,6 +2,7 @@
 
 #include "framework/archive.h"
 #include "framework/field_forms.h"
+#include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
@@ -44,30 +45,14 @@ ContourData::ContourData() : ItCollectionImpl([](auto& self) -> auto& { return s
 
 bool ContourData::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << Tag("CONTOUR_");
-    ar << UInt(3, version, "version") << EndLine;
-    ar << UInt(2, static_cast<std::uint32_t>(contours.size()), "contours") << EndLine;
-    WriteElements(ar, contours);
-    ar << Tag("END");
-    return Healthy(ar);
+    return WriteList(ar, this, version, {"CONTOUR_", 2, "contours"}, contours);
 }
 
 bool ContourData::Read(Archive& ar)
 {
-    if (!ExpectToken(ar, L"CONTOUR_")) {
-        return false;
-    }
-    ar >> version;
-    std::int32_t count = 0;
-    ar >> count;
-    ReadElements(ar, count, [&] { return Contour(version); }, contours);
     // Unlike its sister records, a wrong end tag here does not spoil the
     // rest of the Archive.
-    if (!Matches(ReadToken(ar), L"END")) {
-        return false;
-    }
-    return Healthy(ar);
+    return ReadList(ar, L"CONTOUR_", version, [&] { return Contour(version); }, contours, WrongEnd::failsList);
 }
 
 BoundingBox Contour::boundingBox() const

@@ -2,6 +2,7 @@
 
 #include "framework/archive.h"
 #include "framework/field_forms.h"
+#include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
@@ -44,28 +45,12 @@ CutoutData::CutoutData() : ItCollectionImpl([](auto& self) -> auto& { return sta
 
 bool CutoutData::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << Tag("CUTOUT__");
-    ar << UInt(3, version, "version") << EndLine;
-    ar << UInt(2, static_cast<std::uint32_t>(cutouts.size()), "cutouts") << EndLine;
-    WriteElements(ar, cutouts);
-    ar << Tag("END");
-    return Healthy(ar);
+    return WriteList(ar, this, version, {"CUTOUT__", 2, "cutouts"}, cutouts);
 }
 
 bool CutoutData::Read(Archive& ar)
 {
-    if (!ExpectToken(ar, L"CUTOUT__")) {
-        return false;
-    }
-    ar >> version;
-    std::int32_t count = 0;
-    ar >> count;
-    ReadElements(ar, count, [&] { return Cutout(version); }, cutouts);
-    if (!ExpectToken(ar, L"END")) {
-        return false;
-    }
-    return Healthy(ar);
+    return ReadList(ar, L"CUTOUT__", version, [&] { return Cutout(version); }, cutouts);
 }
 
 } // namespace ItUnitechnik

@@ -2,6 +2,7 @@
 
 #include "framework/archive.h"
 #include "framework/field_forms.h"
+#include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
@@ -83,28 +84,12 @@ MountingPartData::MountingPartData() : ItCollectionImpl([](auto& self) -> auto& 
 
 bool MountingPartData::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << Tag("MOUNPART");
-    ar << UInt(3, version, "version") << EndLine;
-    ar << UInt(version < 502 ? 2 : 3, static_cast<std::uint32_t>(parts.size()), "parts") << EndLine;
-    WriteElements(ar, parts);
-    ar << Tag("END");
-    return Healthy(ar);
+    return WriteList(ar, this, version, {"MOUNPART", version < 502 ? 2 : 3, "parts"}, parts);
 }
 
 bool MountingPartData::Read(Archive& ar)
 {
-    if (!ExpectToken(ar, L"MOUNPART")) {
-        return false;
-    }
-    ar >> version;
-    std::int32_t count = 0;
-    ar >> count;
-    ReadElements(ar, count, [&] { return MountingPart(version); }, parts);
-    if (!ExpectToken(ar, L"END")) {
-        return false;
-    }
-    return Healthy(ar);
+    return ReadList(ar, L"MOUNPART", version, [&] { return MountingPart(version); }, parts);
 }
 
 } // namespace ItUnitechnik

@@ -2,6 +2,7 @@
 
 #include "framework/archive.h"
 #include "framework/field_forms.h"
+#include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
@@ -100,28 +101,12 @@ bool BracedGirder::Read(Archive& ar)
 
 bool BracedGirderData::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << Tag("BRGIRDER");
-    ar << UInt(3, version, "version") << EndLine;
-    ar << UInt(3, girders.size(), "girders") << EndLine;
-    WriteElements(ar, girders);
-    ar << Tag("END");
-    return Healthy(ar);
+    return WriteList(ar, this, version, {"BRGIRDER", 3, "girders"}, girders);
 }
 
 bool BracedGirderData::Read(Archive& ar)
 {
-    if (!ExpectToken(ar, L"BRGIRDER")) {
-        return false;
-    }
-    ar >> version;
-    std::int32_t count = 0;
-    ar >> count;
-    ReadElements(ar, count, [&] { return BracedGirder(); }, girders);
-    if (!ExpectToken(ar, L"END")) {
-        return false;
-    }
-    return Healthy(ar);
+    return ReadList(ar, L"BRGIRDER", version, [] { return BracedGirder(); }, girders);
 }
 
 void BracedGirderData::appendGirder(BracedGirder& girder)

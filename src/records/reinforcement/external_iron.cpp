@@ -2,6 +2,7 @@
 
 #include "framework/archive.h"
 #include "framework/field_forms.h"
+#include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
@@ -34,28 +35,12 @@ bool ExternalIron::Read(Archive& ar)
 
 bool ExternalIronData::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << Tag("EXTIRON_");
-    ar << UInt(3, version, "version") << EndLine;
-    ar << UInt(3, irons.size(), "irons") << EndLine;
-    WriteElements(ar, irons);
-    ar << Tag("END");
-    return Healthy(ar);
+    return WriteList(ar, this, version, {"EXTIRON_", 3, "irons"}, irons);
 }
 
 bool ExternalIronData::Read(Archive& ar)
 {
-    if (!ExpectToken(ar, L"EXTIRON_")) {
-        return false;
-    }
-    ar >> version;
-    std::int32_t count = 0;
-    ar >> count;
-    ReadElements(ar, count, [&] { return ExternalIron(); }, irons);
-    if (!ExpectToken(ar, L"END")) {
-        return false;
-    }
-    return Healthy(ar);
+    return ReadList(ar, L"EXTIRON_", version, [] { return ExternalIron(); }, irons);
 }
 
 void ExternalIronData::appendIron(ExternalIron& iron)

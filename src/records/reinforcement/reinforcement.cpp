@@ -5,20 +5,6 @@
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
-namespace {
-
-// Back to where an optional part began: the try is forgotten, flag and
-// stream state included.
-void Rewind(Archive& ar, std::streampos at)
-{
-    // The seek does nothing on a stream that failed by parsing: only the
-    // state is cleared then, and reading goes on where it stopped.
-    ar.seekg(at);
-    ar.valid = true;
-    ar.clear();
-}
-
-} // namespace
 
 std::int16_t Reinforcement::appendSteelmat(const std::wstring& name, std::int32_t firstDimension,
                                            std::int32_t secondDimension, std::int32_t firstFlag,

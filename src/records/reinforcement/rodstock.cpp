@@ -2,6 +2,7 @@
 
 #include "framework/archive.h"
 #include "framework/field_forms.h"
+#include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
@@ -140,28 +141,12 @@ bool Rodstock::Read(Archive& ar)
 
 bool RodstockData::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << Tag("RODSTOCK");
-    ar << UInt(3, version, "version") << EndLine;
-    ar << UInt(3, bars.size(), "bars") << EndLine;
-    WriteElements(ar, bars);
-    ar << Tag("END");
-    return Healthy(ar);
+    return WriteList(ar, this, version, {"RODSTOCK", 3, "bars"}, bars);
 }
 
 bool RodstockData::Read(Archive& ar)
 {
-    if (!ExpectToken(ar, L"RODSTOCK")) {
-        return false;
-    }
-    ar >> version;
-    std::int32_t count = 0;
-    ar >> count;
-    ReadElements(ar, count, [&] { return Rodstock(version); }, bars);
-    if (!ExpectToken(ar, L"END")) {
-        return false;
-    }
-    return Healthy(ar);
+    return ReadList(ar, L"RODSTOCK", version, [&] { return Rodstock(version); }, bars);
 }
 
 void RodstockData::appendRodstock(Rodstock& bar)

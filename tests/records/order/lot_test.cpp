@@ -229,7 +229,7 @@ TEST(LotRead, ReadsItsOutlines)
     const Contour& contour = lot.contourData.contours[0];
     EXPECT_EQ(contour.contourNumber, 1);
     ASSERT_EQ(contour.geoData.size(), 1u);
-    const auto* line = dynamic_cast<const LineSegment*>(contour.geoData[0].curve);
+    const auto* line = dynamic_cast<const LineSegment*>(contour.geoData[0].curve.get());
     ASSERT_NE(line, nullptr);
     EXPECT_EQ(line->start, Point2d(-10, 5));
     EXPECT_EQ(line->end, Point2d(20, 30));

@@ -185,7 +185,7 @@ TEST(Contour, CopyAndAssignmentKeepTheirOwnElements)
     EXPECT_EQ(copy.contourNumber, 4);
     EXPECT_EQ(copy.contourCode, L"XY");
     ASSERT_EQ(copy.geoData.size(), 1u);
-    EXPECT_NE(copy.geoData[0].curve, original.geoData[0].curve);
+    EXPECT_NE(copy.geoData[0].curve.get(), original.geoData[0].curve.get());
     copy.Add(Segment(600, Point2d(2, 2), Point2d(3, 3)));
     EXPECT_EQ(copy.geoData.size(), 2u);
     EXPECT_EQ(original.geoData.size(), 1u);
@@ -240,13 +240,13 @@ TEST(ContourData, ReadsTheRecordWithItsVersionHandedDown)
     EXPECT_EQ(first.geoData[0].version, 600);
     ASSERT_NE(first.geoData[0].curve, nullptr);
     EXPECT_EQ(first.geoData[0].curve->version, 600);
-    auto* line = dynamic_cast<LineSegment*>(first.geoData[0].curve);
+    auto* line = dynamic_cast<LineSegment*>(first.geoData[0].curve.get());
     ASSERT_NE(line, nullptr);
     EXPECT_EQ(line->start, Point2d(-10, 5));
-    auto* circle = dynamic_cast<Circle*>(first.geoData[1].curve);
+    auto* circle = dynamic_cast<Circle*>(first.geoData[1].curve.get());
     ASSERT_NE(circle, nullptr);
     EXPECT_EQ(circle->radius, 50);
-    auto* polygon = dynamic_cast<Polygon*>(first.geoData[2].curve);
+    auto* polygon = dynamic_cast<Polygon*>(first.geoData[2].curve.get());
     ASSERT_NE(polygon, nullptr);
     EXPECT_EQ(polygon->points.size(), 2u);
     EXPECT_EQ(data.contours[1].contourNumber, 2);
@@ -321,7 +321,7 @@ TEST(ContourData, ElementOfUnknownKindIsKeptWithoutCurve)
     EXPECT_EQ(contour.geoData[0].elementKind, L'X');
     EXPECT_EQ(contour.geoData[0].curve, nullptr);
     EXPECT_EQ(contour.geoData[1].elementKind, L'S');
-    EXPECT_NE(dynamic_cast<LineSegment*>(contour.geoData[1].curve), nullptr);
+    EXPECT_NE(dynamic_cast<LineSegment*>(contour.geoData[1].curve.get()), nullptr);
 
     StringArchive out;
     EXPECT_FALSE(data.Write(out.archive));
@@ -357,10 +357,10 @@ TEST(ContourData, ReadsBackWhatItWrote)
         EXPECT_EQ(read.contours[0].contourNumber, 1);
         EXPECT_EQ(read.contours[0].contourCode, L"K1");
         ASSERT_EQ(read.contours[0].geoData.size(), 3u);
-        auto* line = dynamic_cast<LineSegment*>(read.contours[0].geoData[0].curve);
+        auto* line = dynamic_cast<LineSegment*>(read.contours[0].geoData[0].curve.get());
         ASSERT_NE(line, nullptr);
         EXPECT_EQ(line->end, Point2d(3000, 0));
-        auto* readArc = dynamic_cast<Arc*>(read.contours[0].geoData[1].curve);
+        auto* readArc = dynamic_cast<Arc*>(read.contours[0].geoData[1].curve.get());
         ASSERT_NE(readArc, nullptr);
         EXPECT_EQ(readArc->startAngle, 270);
         EXPECT_EQ(readArc->endAngle, 90);
@@ -385,7 +385,7 @@ TEST(ContourData, ReadsAnArcInTheUnsignedForm)
     ASSERT_EQ(data.contours.size(), 1u);
     ASSERT_EQ(data.contours[0].geoData.size(), 2u);
     EXPECT_EQ(data.contours[0].geoData[0].elementKind, L'B');
-    const auto* arc = dynamic_cast<const Arc*>(data.contours[0].geoData[0].curve);
+    const auto* arc = dynamic_cast<const Arc*>(data.contours[0].geoData[0].curve.get());
     ASSERT_NE(arc, nullptr);
     EXPECT_EQ(arc->version, 502);
     EXPECT_EQ(arc->centre, Point2d(100, 200));
@@ -394,7 +394,7 @@ TEST(ContourData, ReadsAnArcInTheUnsignedForm)
     EXPECT_EQ(arc->endAngle, 90);
     // The last field is taken in hexadecimal.
     EXPECT_EQ(arc->flags, 16);
-    const auto* line = dynamic_cast<const LineSegment*>(data.contours[0].geoData[1].curve);
+    const auto* line = dynamic_cast<const LineSegment*>(data.contours[0].geoData[1].curve.get());
     ASSERT_NE(line, nullptr);
     EXPECT_EQ(line->end, Point2d(10, 10));
 }

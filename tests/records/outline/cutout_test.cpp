@@ -184,7 +184,7 @@ TEST(Cutout, CopyAndAssignmentKeepTheirOwnElements)
     EXPECT_EQ(copy.cutoutName, L"Fenster");
     EXPECT_EQ(copy.cutoutValue, 12.5);
     ASSERT_EQ(copy.geoData.size(), 1u);
-    EXPECT_NE(copy.geoData[0].curve, original.geoData[0].curve);
+    EXPECT_NE(copy.geoData[0].curve.get(), original.geoData[0].curve.get());
     copy.Add(Segment(600, Point2d(1, 1), Point2d(2, 2)));
     EXPECT_EQ(original.geoData.size(), 1u);
 
@@ -227,8 +227,8 @@ TEST(CutoutData, ReadsBackWhatItWrote)
         // Below 600 the name is not in the file.
         EXPECT_EQ(read.cutouts[0].cutoutName, version < 600 ? L"" : window.cutoutName);
         ASSERT_EQ(read.cutouts[0].geoData.size(), 2u);
-        EXPECT_NE(dynamic_cast<LineSegment*>(read.cutouts[0].geoData[0].curve), nullptr);
-        auto* circle = dynamic_cast<Circle*>(read.cutouts[0].geoData[1].curve);
+        EXPECT_NE(dynamic_cast<LineSegment*>(read.cutouts[0].geoData[0].curve.get()), nullptr);
+        auto* circle = dynamic_cast<Circle*>(read.cutouts[0].geoData[1].curve.get());
         ASSERT_NE(circle, nullptr);
         EXPECT_EQ(circle->centre, Point2d(50, 60));
         EXPECT_EQ(read.cutouts[1].cutoutNumber, 2);
@@ -257,19 +257,19 @@ TEST(CutoutData, ReadsCircleArcAndPolygonFromVersion600)
     EXPECT_EQ(cutout.cutoutValue, 0.5);
     EXPECT_EQ(cutout.cutoutName, L"Rund" + Spaces(36));
     ASSERT_EQ(cutout.geoData.size(), 3u);
-    const auto* circle = dynamic_cast<const Circle*>(cutout.geoData[0].curve);
+    const auto* circle = dynamic_cast<const Circle*>(cutout.geoData[0].curve.get());
     ASSERT_NE(circle, nullptr);
-    EXPECT_EQ(dynamic_cast<const Arc*>(cutout.geoData[0].curve), nullptr);
+    EXPECT_EQ(dynamic_cast<const Arc*>(cutout.geoData[0].curve.get()), nullptr);
     EXPECT_EQ(circle->centre, Point2d(100, 200));
     EXPECT_EQ(circle->radius, 50);
     EXPECT_EQ(circle->flags, 255);
-    const auto* arc = dynamic_cast<const Arc*>(cutout.geoData[1].curve);
+    const auto* arc = dynamic_cast<const Arc*>(cutout.geoData[1].curve.get());
     ASSERT_NE(arc, nullptr);
     EXPECT_EQ(arc->centre, Point2d(-100, 200));
     EXPECT_EQ(arc->startAngle, 0);
     EXPECT_EQ(arc->endAngle, 180);
     EXPECT_EQ(arc->flags, 0x255);
-    const auto* polygon = dynamic_cast<const Polygon*>(cutout.geoData[2].curve);
+    const auto* polygon = dynamic_cast<const Polygon*>(cutout.geoData[2].curve.get());
     ASSERT_NE(polygon, nullptr);
     EXPECT_EQ(polygon->version, 600);
     EXPECT_EQ(polygon->points,
@@ -287,7 +287,7 @@ TEST(CutoutData, AnElementOfUnknownKindIsKeptAndTheRestOfItsLineGoesToTheNext)
     ASSERT_EQ(data.cutouts[0].geoData.size(), 2u);
     EXPECT_EQ(data.cutouts[0].geoData[0].elementKind, L'Z');
     EXPECT_EQ(data.cutouts[0].geoData[0].curve, nullptr);
-    EXPECT_NE(dynamic_cast<const LineSegment*>(data.cutouts[0].geoData[1].curve), nullptr);
+    EXPECT_NE(dynamic_cast<const LineSegment*>(data.cutouts[0].geoData[1].curve.get()), nullptr);
 }
 
 TEST(CutoutData, ACountOfCutoutsTooHighFailsTheStream)

@@ -271,7 +271,7 @@ TEST(MountingPartData, PartWithCircleElementsReadsBackCleanly)
     ASSERT_EQ(read.parts.size(), 2u);
     EXPECT_EQ(read.parts[1].partNumber, 2);
     ASSERT_EQ(read.parts[1].geoData.size(), 2u);
-    auto* circle = dynamic_cast<Circle*>(read.parts[1].geoData[1].curve);
+    auto* circle = dynamic_cast<Circle*>(read.parts[1].geoData[1].curve.get());
     ASSERT_NE(circle, nullptr);
     EXPECT_EQ(circle->version, 600);
     EXPECT_EQ(circle->centre, Point2d(5, 5));
@@ -297,7 +297,7 @@ TEST(MountingPartData, LineElementMakesThePartEatTheEnd)
     // The part itself was read whole before its skip took the "END".
     ASSERT_EQ(read.parts.size(), 1u);
     ASSERT_EQ(read.parts[0].geoData.size(), 1u);
-    auto* line = dynamic_cast<LineSegment*>(read.parts[0].geoData[0].curve);
+    auto* line = dynamic_cast<LineSegment*>(read.parts[0].geoData[0].curve.get());
     ASSERT_NE(line, nullptr);
     EXPECT_EQ(line->end, Point2d(3000, 2000));
 }
@@ -417,7 +417,7 @@ TEST(MountingPart, CopyAndAssignmentKeepTheirOwnElements)
     MountingPart copy(original);
     ExpectSameFields(copy, original);
     EXPECT_EQ(copy.version, 600);
-    EXPECT_NE(copy.geoData[0].curve, original.geoData[0].curve);
+    EXPECT_NE(copy.geoData[0].curve.get(), original.geoData[0].curve.get());
     copy.Clear();
     EXPECT_EQ(original.geoData.size(), 1u);
 
@@ -471,11 +471,11 @@ TEST(MountingPartData, ReadsAPolygonAndAnArcFromVersion600)
     EXPECT_EQ(part.partWidth, 1000u);
     EXPECT_EQ(part.partHeight, 2000u);
     ASSERT_EQ(part.geoData.size(), 2u);
-    const auto* polygon = dynamic_cast<const Polygon*>(part.geoData[0].curve);
+    const auto* polygon = dynamic_cast<const Polygon*>(part.geoData[0].curve.get());
     ASSERT_NE(polygon, nullptr);
     EXPECT_EQ(polygon->points, (std::vector<Point2d>{Point2d(0, 0), Point2d(1000, 2000)}));
     EXPECT_EQ(polygon->segmentFlags, (std::vector<int>{10}));
-    const auto* arc = dynamic_cast<const Arc*>(part.geoData[1].curve);
+    const auto* arc = dynamic_cast<const Arc*>(part.geoData[1].curve.get());
     ASSERT_NE(arc, nullptr);
     EXPECT_EQ(arc->version, 600);
     EXPECT_EQ(arc->centre, Point2d(500, 500));

@@ -222,14 +222,14 @@ private:
             }
             // Below 600 a point has no room for a sign and is written as 0.
             const bool asZero = piece.curve->version < 600;
-            if (auto* arc = dynamic_cast<Arc*>(piece.curve)) {
+            if (auto* arc = dynamic_cast<Arc*>(piece.curve.get())) {
                 Point(tag, arc->centre, asZero);
-            } else if (auto* circle = dynamic_cast<Circle*>(piece.curve)) {
+            } else if (auto* circle = dynamic_cast<Circle*>(piece.curve.get())) {
                 Point(tag, circle->centre, asZero);
-            } else if (auto* line = dynamic_cast<LineSegment*>(piece.curve)) {
+            } else if (auto* line = dynamic_cast<LineSegment*>(piece.curve.get())) {
                 Point(tag, line->start, asZero);
                 Point(tag, line->end, asZero);
-            } else if (auto* polygon = dynamic_cast<Polygon*>(piece.curve)) {
+            } else if (auto* polygon = dynamic_cast<Polygon*>(piece.curve.get())) {
                 for (Point2d& point : polygon->points) {
                     Point(tag, point, asZero);
                 }

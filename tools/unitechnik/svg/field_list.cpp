@@ -90,13 +90,13 @@ public:
 
     void Curve(const char* name, GeoData& element)
     {
-        if (auto* arc = dynamic_cast<Arc*>(element.curve)) {
+        if (auto* arc = dynamic_cast<Arc*>(element.curve.get())) {
             Curved(name, "Arc", *arc);
-        } else if (auto* circle = dynamic_cast<Circle*>(element.curve)) {
+        } else if (auto* circle = dynamic_cast<Circle*>(element.curve.get())) {
             Curved(name, "Circle", *circle);
-        } else if (auto* line = dynamic_cast<LineSegment*>(element.curve)) {
+        } else if (auto* line = dynamic_cast<LineSegment*>(element.curve.get())) {
             Curved(name, "LineSegment", *line);
-        } else if (auto* polygon = dynamic_cast<Polygon*>(element.curve)) {
+        } else if (auto* polygon = dynamic_cast<Polygon*>(element.curve.get())) {
             Curved(name, "Polygon", *polygon);
         } else {
             out_.emplace_back(prefix_ + name, "none");

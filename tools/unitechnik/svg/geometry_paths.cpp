@@ -232,7 +232,7 @@ std::string OutlinePath(const std::vector<GeoData>& pieces)
 {
     PathBuilder path;
     for (const GeoData& piece : pieces) {
-        AddPiece(path, piece.curve);
+        AddPiece(path, piece.curve.get());
     }
     return path.Data();
 }
@@ -241,7 +241,7 @@ BoxD OutlineBox(const std::vector<GeoData>& pieces)
 {
     BoxD box;
     for (const GeoData& piece : pieces) {
-        if (const auto* arc = dynamic_cast<const Arc*>(piece.curve)) {
+        if (const auto* arc = dynamic_cast<const Arc*>(piece.curve.get())) {
             if (arc->radius <= 0) {
                 continue;
             }
@@ -259,14 +259,14 @@ BoxD OutlineBox(const std::vector<GeoData>& pieces)
                     box.Widen(CirclePoint(*arc, 90.0 * quarter));
                 }
             }
-        } else if (const auto* circle = dynamic_cast<const Circle*>(piece.curve)) {
+        } else if (const auto* circle = dynamic_cast<const Circle*>(piece.curve.get())) {
             if (circle->radius > 0) {
                 WidenByCircle(box, *circle);
             }
-        } else if (const auto* line = dynamic_cast<const LineSegment*>(piece.curve)) {
+        } else if (const auto* line = dynamic_cast<const LineSegment*>(piece.curve.get())) {
             box.Widen(PointOf(line->start));
             box.Widen(PointOf(line->end));
-        } else if (const auto* polygon = dynamic_cast<const Polygon*>(piece.curve)) {
+        } else if (const auto* polygon = dynamic_cast<const Polygon*>(piece.curve.get())) {
             for (const Point2d& point : polygon->points) {
                 box.Widen(PointOf(point));
             }

@@ -87,13 +87,13 @@ std::string Joined(const std::string& prefix, const char* name)
 template <class Visit>
 void WithCurve(GeoData& element, Visit&& visit)
 {
-    if (auto* arc = dynamic_cast<Arc*>(element.curve)) {
+    if (auto* arc = dynamic_cast<Arc*>(element.curve.get())) {
         visit(*arc);
-    } else if (auto* circle = dynamic_cast<Circle*>(element.curve)) {
+    } else if (auto* circle = dynamic_cast<Circle*>(element.curve.get())) {
         visit(*circle);
-    } else if (auto* line = dynamic_cast<LineSegment*>(element.curve)) {
+    } else if (auto* line = dynamic_cast<LineSegment*>(element.curve.get())) {
         visit(*line);
-    } else if (auto* polygon = dynamic_cast<Polygon*>(element.curve)) {
+    } else if (auto* polygon = dynamic_cast<Polygon*>(element.curve.get())) {
         visit(*polygon);
     }
 }

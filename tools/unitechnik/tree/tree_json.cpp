@@ -92,13 +92,13 @@ public:
     void Curve(const char* name, GeoData& element)
     {
         ordered_json curve;
-        if (auto* arc = dynamic_cast<Arc*>(element.curve)) {
+        if (auto* arc = dynamic_cast<Arc*>(element.curve.get())) {
             curve = Object(*arc, "Arc");
-        } else if (auto* circle = dynamic_cast<Circle*>(element.curve)) {
+        } else if (auto* circle = dynamic_cast<Circle*>(element.curve.get())) {
             curve = Object(*circle, "Circle");
-        } else if (auto* line = dynamic_cast<LineSegment*>(element.curve)) {
+        } else if (auto* line = dynamic_cast<LineSegment*>(element.curve.get())) {
             curve = Object(*line, "LineSegment");
-        } else if (auto* polygon = dynamic_cast<Polygon*>(element.curve)) {
+        } else if (auto* polygon = dynamic_cast<Polygon*>(element.curve.get())) {
             curve = Object(*polygon, "Polygon");
         }
         out_[name] = std::move(curve);
@@ -245,8 +245,7 @@ public:
         } else {
             throw TreeError(path + ".class", "expected Arc, Circle, LineSegment or Polygon");
         }
-        delete element.curve;
-        element.curve = curve.release();
+        element.curve = std::move(curve);
     }
 
     template <class R>

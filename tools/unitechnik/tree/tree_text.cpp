@@ -116,15 +116,15 @@ private:
     {
         for (const GeoData& piece : pieces) {
             std::string text(1, static_cast<char>(piece.elementKind));
-            if (const auto* arc = dynamic_cast<const Arc*>(piece.curve)) {
+            if (const auto* arc = dynamic_cast<const Arc*>(piece.curve.get())) {
                 text += " arc about " + At(arc->centre.x, arc->centre.y) + ", radius " + std::to_string(arc->radius) +
                         ", from " + std::to_string(arc->startAngle) + " to " + std::to_string(arc->endAngle);
-            } else if (const auto* circle = dynamic_cast<const Circle*>(piece.curve)) {
+            } else if (const auto* circle = dynamic_cast<const Circle*>(piece.curve.get())) {
                 text += " circle about " + At(circle->centre.x, circle->centre.y) + ", radius " +
                         std::to_string(circle->radius);
-            } else if (const auto* line = dynamic_cast<const LineSegment*>(piece.curve)) {
+            } else if (const auto* line = dynamic_cast<const LineSegment*>(piece.curve.get())) {
                 text += " line " + At(line->start.x, line->start.y) + " to " + At(line->end.x, line->end.y);
-            } else if (const auto* polygon = dynamic_cast<const Polygon*>(piece.curve)) {
+            } else if (const auto* polygon = dynamic_cast<const Polygon*>(piece.curve.get())) {
                 text += " polygon of " + Counted(polygon->points.size(), "point", "points");
                 for (const Point2d& point : polygon->points) {
                     text += " " + At(point.x, point.y);
