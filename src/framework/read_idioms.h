@@ -63,6 +63,35 @@ bool ExpectLine(Archive& ar, const wchar_t* tag);
 // stopped.
 void Rewind(Archive& ar, std::streampos at);
 
+// An optional record: it reads itself where the stream stands, and when it
+// fails the stream goes back there with the failure forgotten. Whether it
+// read.
+template <class T>
+bool ReadOrRewind(Archive& ar, T& record)
+{
+    const std::streampos start = ar.tellg();
+    record.Read(ar);
+    if (Healthy(ar)) {
+        return true;
+    }
+    Rewind(ar, start);
+    return false;
+}
+
+// Records of one kind, one behind the other, up to the first that does not
+// read; that one is rewound, and it is no failure of the reader.
+template <class T>
+void ReadWhileThere(Archive& ar, std::vector<T>& into)
+{
+    for (;;) {
+        T record;
+        if (!ReadOrRewind(ar, record)) {
+            return;
+        }
+        into.push_back(std::move(record));
+    }
+}
+
 // The collection read: `count` times a fresh element from `make` reads
 // itself, and only an element after which the stream is healthy is kept. A
 // failed element does not end the loop; once the stream itself has failed no

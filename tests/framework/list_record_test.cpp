@@ -108,19 +108,5 @@ TEST(ReadList, EntriesThatDoNotReadAreNotKept)
     EXPECT_EQ(entries[0].value, 7u);
 }
 
-TEST(Rewind, GoesBackAndForgetsTheFailure)
-{
-    StringArchive s(L"FIRST 12 x");
-    EXPECT_EQ(ReadToken(s.archive), L"FIRST");
-    const std::streampos at = s.archive.tellg();
-    int number = 0;
-    s.archive >> number >> number; // the second fails on "x"
-    EXPECT_TRUE(s.archive.fail());
-    s.archive.valid = false;
-    Rewind(s.archive, at);
-    EXPECT_TRUE(s.archive.valid);
-    EXPECT_FALSE(s.archive.fail());
-}
-
 } // namespace
 } // namespace ItUnitechnik

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace ItUnitechnik {
 namespace {
 
@@ -162,6 +164,77 @@ TEST(Archive, StartsAsTheFormatNeedsIt)
     EXPECT_FALSE(s.archive.spareFlag);
     EXPECT_TRUE(s.archive.flags() & std::ios_base::skipws);
     EXPECT_EQ(s.archive.exceptions(), std::ios_base::goodbit);
+}
+
+// A record of one number on a line of its own, for the optional reads.
+struct NumberLine {
+    int value = 0;
+    bool Read(Archive& ar)
+    {
+        ar >> value;
+        SkipLine(ar);
+        return Healthy(ar);
+    }
+};
+
+TEST(Rewind, GoesBackAndForgetsTheFailure)
+{
+    StringArchive s(L"FIRST 12 x");
+    EXPECT_EQ(ReadToken(s.archive), L"FIRST");
+    const std::streampos at = s.archive.tellg();
+    s.archive.valid = false;
+    Rewind(s.archive, at);
+    EXPECT_TRUE(s.archive.valid);
+    int number = 0;
+    s.archive >> number;
+    EXPECT_EQ(number, 12);
+    s.archive >> number; // fails on "x"
+    EXPECT_TRUE(s.archive.fail());
+    Rewind(s.archive, at);
+    EXPECT_TRUE(s.archive.valid);
+    EXPECT_FALSE(s.archive.fail());
+}
+
+TEST(ReadOrRewind, ARecordThatReadsStaysRead)
+{
+    StringArchive s(L"7\nEND\n");
+    NumberLine line;
+    EXPECT_TRUE(ReadOrRewind(s.archive, line));
+    EXPECT_EQ(line.value, 7);
+    EXPECT_EQ(ReadToken(s.archive), L"END");
+}
+
+TEST(ReadOrRewind, ARecordThatDoesNotReadLeavesTheStreamWhereItWas)
+{
+    StringArchive s(L"END\n");
+    NumberLine line;
+    s.archive.valid = false; // a failure before the try is forgotten too
+    EXPECT_FALSE(ReadOrRewind(s.archive, line));
+    EXPECT_TRUE(s.archive.valid);
+    EXPECT_FALSE(s.archive.fail());
+    EXPECT_EQ(ReadToken(s.archive), L"END");
+}
+
+TEST(ReadWhileThere, ReadsUpToTheFirstRecordThatDoesNotRead)
+{
+    StringArchive s(L"1\n2\n3\nEND\n");
+    std::vector<NumberLine> lines;
+    ReadWhileThere(s.archive, lines);
+    ASSERT_EQ(lines.size(), 3u);
+    EXPECT_EQ(lines[0].value, 1);
+    EXPECT_EQ(lines[2].value, 3);
+    EXPECT_TRUE(Healthy(s.archive));
+    EXPECT_EQ(ReadToken(s.archive), L"END");
+}
+
+TEST(ReadWhileThere, NoneThereIsNoFailure)
+{
+    StringArchive s(L"END\n");
+    std::vector<NumberLine> lines;
+    ReadWhileThere(s.archive, lines);
+    EXPECT_TRUE(lines.empty());
+    EXPECT_TRUE(Healthy(s.archive));
+    EXPECT_EQ(ReadToken(s.archive), L"END");
 }
 
 } // namespace

@@ -143,16 +143,7 @@ bool ElementPart::Read(Archive& ar)
     if (LayerFollows(ar)) {
         // The layers run up to the first record that is no layer, normally
         // the closing tag; that failure is no failure of the element.
-        for (;;) {
-            const std::wistream::pos_type start = ar.tellg();
-            Layer layer;
-            layer.Read(ar);
-            if (!Healthy(ar)) {
-                Rewind(ar, start);
-                break;
-            }
-            layers.push_back(layer);
-        }
+        ReadWhileThere(ar, layers);
     } else if (!ReadOutlineAndReinforcement(ar)) {
         return false;
     }
@@ -187,10 +178,7 @@ bool ElementPart::ReadOutlineAndReinforcement(Archive& ar)
     }
 
     // The reader looks for the mats first, unlike the writer.
-    const std::wistream::pos_type beforeReinforcement = ar.tellg();
-    reinforcement.Read(ar);
-    if (!Healthy(ar)) {
-        Rewind(ar, beforeReinforcement);
+    if (!ReadOrRewind(ar, reinforcement)) {
         if (!ReadOptional(ar, rodstockData) || !ReadOptional(ar, bracedGirderData)) {
             return false;
         }

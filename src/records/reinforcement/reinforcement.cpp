@@ -77,25 +77,8 @@ bool Reinforcement::Read(Archive& ar)
 
     // The mats run up to the first thing that is no mat; that is no failure
     // of the block.
-    for (;;) {
-        const std::streampos start = ar.tellg();
-        Steelmat mat;
-        mat.Read(ar);
-        if (!Healthy(ar)) {
-            Rewind(ar, start);
-            break;
-        }
-        mats.push_back(mat);
-    }
-
-    const std::streampos irons = ar.tellg();
-    externalIrons.Read(ar);
-    if (Healthy(ar)) {
-        hasExternalIrons = true;
-    } else {
-        Rewind(ar, irons);
-        hasExternalIrons = false;
-    }
+    ReadWhileThere(ar, mats);
+    hasExternalIrons = ReadOrRewind(ar, externalIrons);
 
     // The same steps with or without irons. After a rewind the stream stands
     // at the closing line itself, which the skip then drops: a block without
