@@ -14,7 +14,9 @@ using nlohmann::json;
 // Where the parser is: one frame per open object or array, with the keys an
 // object has so far and the index of an array's next entry. A pass of its
 // own, ahead of building the value: nlohmann's parser with a callback goes
-// through an array again at the end of each object in it.
+// through an array again at the end of each object in it. The place of a
+// frame is put together only for a message, so that deep nesting costs no
+// more than the text it stands in.
 class DoubledKeys final : public json::json_sax_t {
 public:
     bool null() override { return Value(); }
@@ -33,7 +35,7 @@ public:
     {
         Frame& frame = frames_.back();
         if (!frame.keys.insert(key).second) {
-            const std::string where = frame.path.empty() ? "the top object" : frame.path;
+            const std::string where = frames_.size() == 1 ? "the top object" : PlaceOfInnermost();
             throw BadInput(where + ": the key \"" + key + "\" stands twice");
         }
         frame.lastKey = key;
@@ -46,7 +48,6 @@ public:
 private:
     struct Frame {
         bool isObject = false;
-        std::string path;
         std::set<std::string> keys;
         std::string lastKey;
         std::size_t nextIndex = 0;
@@ -62,18 +63,31 @@ private:
 
     bool Open(bool isObject)
     {
+        if (frames_.size() == kMostNesting) {
+            throw BadInput("arrays and objects nest deeper than " + std::to_string(kMostNesting));
+        }
+        if (!frames_.empty() && !frames_.back().isObject) {
+            ++frames_.back().nextIndex;
+        }
         Frame frame;
         frame.isObject = isObject;
-        if (!frames_.empty()) {
-            Frame& outer = frames_.back();
-            if (outer.isObject) {
-                frame.path = outer.path.empty() ? outer.lastKey : outer.path + "." + outer.lastKey;
-            } else {
-                frame.path = outer.path + "[" + std::to_string(outer.nextIndex++) + "]";
-            }
-        }
         frames_.push_back(std::move(frame));
         return true;
+    }
+
+    // "calls[2].block": the key or index by which each frame holds the next.
+    std::string PlaceOfInnermost() const
+    {
+        std::string place;
+        for (std::size_t i = 0; i + 1 < frames_.size(); ++i) {
+            const Frame& outer = frames_[i];
+            if (outer.isObject) {
+                place += place.empty() ? outer.lastKey : "." + outer.lastKey;
+            } else {
+                place += "[" + std::to_string(outer.nextIndex - 1) + "]";
+            }
+        }
+        return place;
     }
 
     bool Close()

@@ -73,6 +73,11 @@ std::vector<BadScript> AllBadScripts()
                                      R"("pointCount": 3}})"),
          "calls[1].block: the key \"pointCount\" stands twice"},
         {"DoubledCalls", "{\"calls\": [], \"calls\": []}", "the top object: the key \"calls\" stands twice"},
+        {"DoubledKeyInADeepArray", "{\"calls\": [[], [[{}, {\"a\": 1, \"a\": 2}]]]}",
+         "calls[1][0][1]: the key \"a\" stands twice"},
+        // Half a million arrays in one another: refused at once, in little memory.
+        {"DeepArrays", "{\"calls\": " + std::string(500000, '[') + std::string(500000, ']') + "}",
+         "arrays and objects nest deeper than 256"},
 
         // The script's frame.
         {"TopLevelArray", "[]", "expected an object with \"calls\", found an array"},
