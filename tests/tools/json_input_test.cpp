@@ -1,5 +1,5 @@
 // The JSON of the tool's input files: how deep arrays and objects may nest,
-// and the place a doubled key is told at.
+// the place a doubled key is told at, and numbers beyond a double.
 #include "json_input.h"
 
 #include "sub_command.h"
@@ -59,6 +59,13 @@ TEST(JsonInput, DoubledKeyIsToldAtItsPlace)
     EXPECT_EQ(MessageOf(R"([0, {"b": 1, "b": 2}])"), "[1]: the key \"b\" stands twice");
     EXPECT_EQ(MessageOf(R"({"x": [5, [6], {"y": {"z": 1, "z": 1}}]})"), "x[2].y: the key \"z\" stands twice");
     EXPECT_EQ(MessageOf(R"({"x": [[], {}, {"c": 1}, {"c": 1, "c": 2}]})"), "x[3]: the key \"c\" stands twice");
+}
+
+TEST(JsonInput, NumberBeyondADoubleIsToldAtItsEnd)
+{
+    EXPECT_EQ(MessageOf("[-1e400]"), "line 1, column 7: number overflow parsing '-1e400'");
+    EXPECT_EQ(MessageOf("[1,\n  2e400]"), "line 2, column 7: number overflow parsing '2e400'");
+    EXPECT_EQ(ParseJsonText("[1e308]").at(0).get<double>(), 1e308);
 }
 
 } // namespace

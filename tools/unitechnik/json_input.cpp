@@ -2,6 +2,7 @@
 
 #include "sub_command.h"
 
+#include <algorithm>
 #include <set>
 #include <string>
 #include <vector>
@@ -10,6 +11,13 @@ namespace ItUnitechnik::Tool {
 namespace {
 
 using nlohmann::json;
+
+// "[json.exception.out_of_range.406] number overflow ..." without the id.
+std::string WithoutId(const std::string& what)
+{
+    const std::size_t end = what.find("] ");
+    return what.rfind("[json.exception.", 0) == 0 && end != std::string::npos ? what.substr(end + 2) : what;
+}
 
 // Where the parser is: one frame per open object or array, with the keys an
 // object has so far and the index of an array's next entry. A pass of its
@@ -42,8 +50,18 @@ public:
         return true;
     }
 
-    // The parse that builds the value tells the error with its place.
-    bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) override { return false; }
+    explicit DoubledKeys(const std::string& text) : text_(text) {}
+
+    // The parse that builds the value tells a syntax error with its place. A
+    // number beyond a double is no syntax error to it, and its account has no
+    // place: it is told here, with the line and column of the number's end.
+    bool parse_error(std::size_t position, const std::string&, const nlohmann::detail::exception& e) override
+    {
+        if (dynamic_cast<const json::out_of_range*>(&e) != nullptr) {
+            throw BadInput(LineAndColumn(position) + ": " + WithoutId(e.what()));
+        }
+        return false;
+    }
 
 private:
     struct Frame {
@@ -96,15 +114,33 @@ private:
         return true;
     }
 
+    // As the parser counts them: from 1, a column the characters of its line
+    // read so far.
+    std::string LineAndColumn(std::size_t position) const
+    {
+        const std::size_t end = std::min(position, text_.size());
+        std::size_t line = 1;
+        std::size_t lineStart = 0;
+        for (std::size_t i = 0; i < end; ++i) {
+            if (text_[i] == '\n') {
+                ++line;
+                lineStart = i + 1;
+            }
+        }
+        return "line " + std::to_string(line) + ", column " + std::to_string(end - lineStart);
+    }
+
+    const std::string& text_;
     std::vector<Frame> frames_;
 };
+
 
 } // namespace
 
 nlohmann::json ParseJsonText(const std::string& text)
 {
     try {
-        DoubledKeys doubled;
+        DoubledKeys doubled(text);
         json::sax_parse(text, &doubled, json::input_format_t::json, true, true);
         return json::parse(text, nullptr, true, true);
     } catch (const json::parse_error& e) {

@@ -9,15 +9,15 @@
 namespace ItUnitechnik::Tool {
 
 // The deepest that arrays and objects may nest in an input file. A call
-// script nests five deep and a dumped document about twenty; the limit keeps
-// a file of brackets from costing memory by the square of its depth.
+// script nests five deep and a dumped document at most fourteen; a file of
+// brackets alone is refused early and in little memory.
 inline constexpr std::size_t kMostNesting = 256;
 
 // The JSON of an input file. Comments (// and /* */) are allowed; a key that
 // stands twice in one object is refused, since one of the two would be lost
 // without a word, and so is nesting deeper than kMostNesting. Throws BadInput
-// with the line and column of a syntax error, or the place of a doubled key
-// or of the array or object one too deep.
+// with the line and column of a syntax error or of a number beyond a double,
+// the place of a doubled key, or the depth.
 nlohmann::json ParseJsonText(const std::string& text);
 
 } // namespace ItUnitechnik::Tool

@@ -59,6 +59,8 @@ std::vector<BadScript> AllBadScripts()
         {"EmptyFile", "",
          "line 1, column 1: syntax error while parsing value - unexpected end of input; expected '[', '{', or a "
          "literal"},
+        {"NumberBeyondADouble", Calls(R"({"call": "startOrder", "orderValue": 1e999})"),
+         "line 1, column 53: number overflow parsing '1e999'"},
         {"TextAfterTheScript", "{\"calls\": []}\n]",
          "line 2, column 1: syntax error while parsing value - unexpected ']'; expected end of input"},
         {"NoUtf8", "{\"calls\": [\"\xFF\"]}",
