@@ -6,14 +6,19 @@ records/    each line of the golden files and what follows it (at most 600
             bytes), behind one byte that picks the file's version: seeds of
             every record target, whose record starts at some line of them.
 exports/    call sequences in the exports target's own coding.
+scripts/    the tool's call scripts of the tests and examples, whole: seeds of
+            the script target; script.dict holds every key and name in them.
 Run it again when the golden files change.
 """
 import hashlib
+import re
 import pathlib
 import struct
 
 HERE = pathlib.Path(__file__).resolve().parent
 GOLDEN = HERE.parent / "tests" / "functional" / "expected"
+SCRIPTS = [HERE.parent / "examples", HERE.parent / "tests" / "tools" / "golden",
+           HERE.parent / "tests" / "tools" / "check" / "inputs"]
 # The order of fuzz/record_read.h's VersionFrom.
 VERSIONS = [0, 5, 499, 500, 501, 502, 503, 599, 600, 601, -1, 32767]
 
@@ -107,6 +112,21 @@ def exports():
     yield start_order(8) + project("1.2.2024") + project("12")
 
 
+def scripts():
+    for folder in SCRIPTS:
+        for path in sorted(folder.glob("*.json")):
+            yield path.read_bytes()
+
+
+def script_words():
+    # The keys of the scripts and the names of their calls, quoted.
+    words = set()
+    for data in scripts():
+        words.update(re.findall(rb'("[A-Za-z]+")\s*:', data))
+        words.update(re.findall(rb'"call"\s*:\s*("[A-Za-z]+")', data))
+    return sorted(words)
+
+
 def main():
     for data in documents():
         write(HERE / "corpus" / "documents", data)
@@ -114,6 +134,12 @@ def main():
         write(HERE / "corpus" / "records", seed)
     for seed in exports():
         write(HERE / "corpus" / "exports", seed)
+    for seed in scripts():
+        write(HERE / "corpus" / "scripts", seed)
+    with open(HERE / "script.dict", "wb") as out:
+        out.write(b"# The calls and keys of the tool's call scripts; made by make_seeds.py.\n")
+        for word in script_words():
+            out.write(b'"' + word.replace(b'"', b'\\"') + b'"\n')
 
 
 if __name__ == "__main__":

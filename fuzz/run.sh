@@ -29,15 +29,26 @@ seeds_of() {
     case "$1" in
         fuzz_exports) echo fuzz/corpus/exports ;;
         fuzz_document|fuzz_tolerant) echo fuzz/corpus/documents ;;
+        fuzz_script) echo fuzz/corpus/scripts ;;
         *) echo fuzz/corpus/records ;;
     esac
 }
 
 for target in "${targets[@]}"; do
     program="$build/fuzz/$target"
+    # The record targets are one program, told the record by the environment.
+    case "$target" in
+        fuzz_read_*)
+            program="$build/fuzz/fuzz_records"
+            export ITUNITECHNIK_FUZZ_RECORD="${target#fuzz_read_}"
+            ;;
+    esac
     seeds="$(seeds_of "$target")"
-    dict=()
-    [ "$target" = fuzz_exports ] || dict=(-dict=fuzz/tags.dict)
+    case "$target" in
+        fuzz_exports) dict=() ;;
+        fuzz_script) dict=(-dict=fuzz/script.dict) ;;
+        *) dict=(-dict=fuzz/tags.dict) ;;
+    esac
     # Regression: every seed once.
     "$program" -runs=0 "$seeds" >"$build/findings/$target.replay.log" 2>&1 \
         || { cat "$build/findings/$target.replay.log"; echo "$target: a seed fails"; exit 1; }
