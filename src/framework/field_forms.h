@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/field_buffer.h"
+#include "framework/field_output.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -91,33 +91,6 @@ IntegerForm<T> Hex(int width, T value, const char* member = nullptr)
     static_assert(std::is_integral<T>::value, "Hex takes an integer");
     return {IntegerForm<T>::Kind::hexField, width, value, member};
 }
-
-namespace Fields {
-
-// Marks a stream that has just taken the classic number formats; any locale
-// imbued later takes the mark away again. When its buffer is a FieldBuffer,
-// the forms fill that buffer's put area themselves for as long as it stays
-// the stream's buffer.
-void KeepPlainDigits(std::wostream& stream);
-// Whether the stream keeps the classic number formats that an Archive gives
-// it, so that a form may make its own digits.
-bool PlainDigits(std::ios_base& stream);
-
-// An integer as the inserter sees it: for a decimal field its sign and
-// magnitude, and whether its type is signed (only a signed type shows a plus
-// sign); for a hexadecimal field its bit pattern in the width of its type.
-struct IntegerValue {
-    bool negative;
-    bool signedType;
-    unsigned long long magnitude;
-};
-
-// Puts the integer with the stream's width, fill, adjustment, plus sign and
-// case, as the inserter would; false when the form must leave it to the
-// inserter (another number format in force).
-bool PutInteger(std::wostream& os, const IntegerValue& value, bool hexadecimal);
-
-} // namespace Fields
 
 template <class T>
 std::wostream& operator<<(std::wostream& os, const IntegerForm<T>& form)
