@@ -46,7 +46,8 @@ bool ElementPart::Write(Archive& ar)
 {
     const RecordScope scope(ar, this);
     ar << Tag("SLABDATE");
-    ar << UInt(3, version, "version") << EndLine;
+    ar << UInt(3, version, "version");
+    ar << EndLine;
     WriteLineA(ar);
     WriteLineB(ar);
     if (version == 502) {
@@ -157,7 +158,8 @@ void ElementPart::WritePlasters(Archive& ar)
 
 void ElementPart::WriteConcreteLayers(Archive& ar)
 {
-    ar << UInt(2, static_cast<std::uint32_t>(concreteLayers.size()), "concreteLayers") << EndLine;
+    ar << UInt(2, static_cast<std::uint32_t>(concreteLayers.size()), "concreteLayers");
+    ar << EndLine;
     WriteElements(ar, concreteLayers);
 }
 
@@ -204,7 +206,8 @@ void ElementPart::WriteLineD(Archive& ar)
     ar << Blank;
     ar << UInt(2, valueD3, "valueD3");
     ar << Blank;
-    ar << RText(30, elementText30, "elementText30") << EndLine;
+    ar << RText(30, elementText30, "elementText30");
+    ar << EndLine;
 }
 
 void ElementPart::WriteLineE(Archive& ar)
@@ -245,15 +248,20 @@ void ElementPart::WriteLineF(Archive& ar)
     ar << Blank;
     ar << SInt(5, fourthPoint.z, "fourthPoint.z");
     ar << Blank;
-    ar << UInt(3, valueF1, "valueF1") << EndLine;
+    ar << UInt(3, valueF1, "valueF1");
+    ar << EndLine;
 }
 
 void ElementPart::WriteLinesG(Archive& ar)
 {
-    ar << RText(20, slabInfo1, "slabInfo1") << EndLine;
-    ar << RText(20, slabInfo2, "slabInfo2") << EndLine;
-    ar << RText(20, slabInfo3, "slabInfo3") << EndLine;
-    ar << RText(20, slabInfo4, "slabInfo4") << EndLine;
+    ar << RText(20, slabInfo1, "slabInfo1");
+    ar << EndLine;
+    ar << RText(20, slabInfo2, "slabInfo2");
+    ar << EndLine;
+    ar << RText(20, slabInfo3, "slabInfo3");
+    ar << EndLine;
+    ar << RText(20, slabInfo4, "slabInfo4");
+    ar << EndLine;
 }
 
 void ElementPart::WriteNestedRecords(Archive& ar)

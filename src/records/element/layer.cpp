@@ -16,7 +16,8 @@ bool Layer::Write(Archive& ar)
 {
     const RecordScope scope(ar, this);
     ar << Tag("LAYER___");
-    ar << UInt(3, version, "version") << EndLine;
+    ar << UInt(3, version, "version");
+    ar << EndLine;
 
     ar << UInt(1, layerValue1, "layerValue1");
     ar << Blank;
@@ -26,7 +27,8 @@ bool Layer::Write(Archive& ar)
     ar << Blank;
     ar << UInt(6, layerValue4, "layerValue4");
     ar << Blank;
-    ar << UInt(2, lotCount, "lotCount") << EndLine;
+    ar << UInt(2, lotCount, "lotCount");
+    ar << EndLine;
 
     ar << Tag("END");
     for (Lot& lot : lots) {

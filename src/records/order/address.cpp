@@ -14,10 +14,14 @@ bool Address::Read(Archive& ar)
 bool Address::Write(Archive& ar)
 {
     const RecordScope scope(ar, this);
-    ar << Text(25, addressText1, "addressText1") << EndLine;
-    ar << Text(25, addressText2, "addressText2") << EndLine;
-    ar << Text(8, addressText3, "addressText3") << EndLine;
-    ar << Text(25, addressText4, "addressText4") << EndLine;
+    ar << Text(25, addressText1, "addressText1");
+    ar << EndLine;
+    ar << Text(25, addressText2, "addressText2");
+    ar << EndLine;
+    ar << Text(8, addressText3, "addressText3");
+    ar << EndLine;
+    ar << Text(25, addressText4, "addressText4");
+    ar << EndLine;
     return Healthy(ar);
 }
 

@@ -16,7 +16,8 @@ bool Lot::Write(Archive& ar)
 {
     const RecordScope scope(ar, this);
     ar << Tag("LOT_____");
-    ar << UInt(3, version, "version") << EndLine;
+    ar << UInt(3, version, "version");
+    ar << EndLine;
 
     ar << UInt(2, lotNumber, "lotNumber");
     ar << Blank;

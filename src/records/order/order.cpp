@@ -117,7 +117,9 @@ bool Order::Write(Archive& ar)
     const RecordScope scope(ar, this);
     ar << Tag("HEADER__");
 
-    ar << UInt(3, version, "version") << EndLine;
+    ar << UInt(3, version, "version");
+
+    ar << EndLine;
 
     if (version < 600) {
         ar << Text(8, orderNumber, "orderNumber");
@@ -150,14 +152,16 @@ bool Order::Write(Archive& ar)
     ar << EndLine;
 
     if (version >= 600) {
-        ar << Text(40, orderText40, "orderText40") << EndLine;
+        ar << Text(40, orderText40, "orderText40");
+        ar << EndLine;
     }
 
     ar << Literal("0");
     ar << Blank;
     ar << UInt(2, static_cast<std::uint32_t>(elementParts.size()), "elementParts");
     ar << Blank;
-    ar << Literal("000") << EndLine;
+    ar << Literal("000");
+    ar << EndLine;
 
     ar << Tag("END");
 

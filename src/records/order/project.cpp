@@ -15,10 +15,14 @@ bool Project::Read(Archive& ar)
 bool Project::Write(Archive& ar)
 {
     const RecordScope scope(ar, this);
-    ar << Text(20, projectText1, "projectText1") << EndLine;
-    ar << Text(20, projectText2, "projectText2") << EndLine;
-    ar << Text(20, projectText3, "projectText3") << EndLine;
-    ar << Text(20, projectText4, "projectText4") << EndLine;
+    ar << Text(20, projectText1, "projectText1");
+    ar << EndLine;
+    ar << Text(20, projectText2, "projectText2");
+    ar << EndLine;
+    ar << Text(20, projectText3, "projectText3");
+    ar << EndLine;
+    ar << Text(20, projectText4, "projectText4");
+    ar << EndLine;
     return Healthy(ar);
 }
 

@@ -18,11 +18,14 @@ bool MountingPart::Write(Archive& ar)
     ar << UInt(2, partSubCode, "partSubCode") << Blank;
     ar << Literal("000") << Blank;
     ar << Text(10, partCode, "partCode") << Blank;
-    ar << Text(40, partName, "partName") << EndLine;
+    ar << Text(40, partName, "partName");
+    ar << EndLine;
     // Lines 2 and 3 stand at the right end of their places.
     if (version >= 600) {
-        ar << RText(20, partText1, Adjust::right, "partText1") << EndLine;
-        ar << RText(20, partText2, Adjust::right, "partText2") << EndLine;
+        ar << RText(20, partText1, Adjust::right, "partText1");
+        ar << EndLine;
+        ar << RText(20, partText2, Adjust::right, "partText2");
+        ar << EndLine;
     }
     // Last line.
     ar << Real(2, 3, partArea, "partArea") << Blank;

@@ -33,7 +33,8 @@ bool Reinforcement::Write(Archive& ar)
 {
     const RecordScope scope(ar, this);
     ar << Tag("REFORCEM");
-    ar << UInt(3, version, "version") << EndLine;
+    ar << UInt(3, version, "version");
+    ar << EndLine;
 
     ar << Text(10, firstText, "firstText");
     ar << Blank;

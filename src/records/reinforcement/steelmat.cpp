@@ -12,7 +12,8 @@ bool Steelmat::Write(Archive& ar)
 {
     const RecordScope scope(ar, this);
     ar << Tag("STEELMAT");
-    ar << UInt(3, version, "version") << EndLine;
+    ar << UInt(3, version, "version");
+    ar << EndLine;
 
     ar << UInt(2, number, "number");
     ar << Blank;
@@ -38,8 +39,10 @@ bool Steelmat::Write(Archive& ar)
     ar << EndLine;
 
     if (version >= 600) {
-        ar << Text(20, extraTextA, "extraTextA") << EndLine;
-        ar << Text(20, extraTextB, "extraTextB") << EndLine;
+        ar << Text(20, extraTextA, "extraTextA");
+        ar << EndLine;
+        ar << Text(20, extraTextB, "extraTextB");
+        ar << EndLine;
     }
     ar << Tag("END");
 
