@@ -223,11 +223,12 @@ void PrintRatios(const RatioReporter& reporter, std::size_t fileBytes, const Mem
         const double ac = cpuTime(subject);
         const double bc = cpuTime(baseline);
         if (a > 0 && b > 0 && ac > 0 && bc > 0) {
-            std::printf("%s: %.2f ms / %.3f ms = %.2f (CPU %.2f ms / %.3f ms = %.2f)  [<= 5]\n", what, a / 1e6,
-                        b / 1e6, a / b, ac / 1e6, bc / 1e6, ac / bc);
+            std::printf("%s: %.2f ms / %.3f ms = %.2f (CPU %.2f ms / %.3f ms = %.2f)  [<= 5]\n", what, a / 1e6, b / 1e6,
+                        a / b, ac / 1e6, bc / 1e6, ac / bc);
         }
     };
-    const std::string fileWhat = "endDocument / one buffered fwrite of the same " + std::to_string(fileBytes) + " bytes";
+    const std::string fileWhat =
+        "endDocument / one buffered fwrite of the same " + std::to_string(fileBytes) + " bytes";
     compare(fileWhat.c_str(), "endDocument", "rawWrite");
     compare("getFullReinforcementString / a copy of its text", "getFullReinforcementString", "copyOfSummaryText");
     const double goal = 3.0 * static_cast<double>(fileBytes) + 10.0 * 1024 * 1024;

@@ -60,8 +60,8 @@ void AddOneCutout(int32_t i)
 void AddOneMountingPart(int32_t i)
 {
     const int32_t x = 200 + i % 5000;
-    const int32_t values[18] = {3, 7, x, 200, x + 120, 200, x + 120, 200, x + 120, 320,
-                                x + 120, 320, x, 320, x, 320, x, 200};
+    const int32_t values[18] = {3,   7,       x,   200, x + 120, 200, x + 120, 200, x + 120,
+                                320, x + 120, 320, x,   320,     x,   320,     x,   200};
     addSet(3, Host(u"Socket box"), 18, values);
 }
 
@@ -121,8 +121,8 @@ void AddOneFreeFormRodstock(int32_t i)
     ItBarBlock bar = BarBlock(i);
     bar.bendingCode = 2;
     bar.segmentCount = 8;
-    const ItFreeFormSegment segments[8] = {{200, 90, {0, 0}},  {1000, -90, {0, 0}}, {150, 45, {0, 0}},
-                                           {300, 0, {0, 0}},   {400, -45, {0, 0}},  {500, 135, {0, 0}},
+    const ItFreeFormSegment segments[8] = {{200, 90, {0, 0}},   {1000, -90, {0, 0}}, {150, 45, {0, 0}},
+                                           {300, 0, {0, 0}},    {400, -45, {0, 0}},  {500, 135, {0, 0}},
                                            {250, -180, {0, 0}}, {120, 30, {0, 0}}};
     addFreeFormRodstock(&bar, segments);
 }

@@ -26,12 +26,25 @@ int main(int argc, char** argv)
     const double placement[9] = {0.0, 0.0, 0.0, 6000.0, 0.0, 0.0, 0.0, 2400.0, 0.0};
     const char* file = argc > 1 ? argv[1] : "slab.uni";
 
-    static const char* const projectTexts[IT_PROJECT_TEXT_COUNT] = {
-        "ORD-2026-0142", "A1   ", "LV01", "K-77", /* order number and identifying texts */
-        "Riverside Tower", "Block B", "Level 3", "Slabs",           /* project */
-        "Precast Works Ltd", "Quarry Road 12", "D-12345", "Steinfeld", /* plant */
-        "Main Contractor", "Harbour Street 1", "D-20457", "Hamburg", /* site */
-        "21.11.2026", "01", "Floor slab, fair-faced underside"};
+    static const char* const projectTexts[IT_PROJECT_TEXT_COUNT] = {"ORD-2026-0142",
+                                                                    "A1   ",
+                                                                    "LV01",
+                                                                    "K-77", /* order number and identifying texts */
+                                                                    "Riverside Tower",
+                                                                    "Block B",
+                                                                    "Level 3",
+                                                                    "Slabs", /* project */
+                                                                    "Precast Works Ltd",
+                                                                    "Quarry Road 12",
+                                                                    "D-12345",
+                                                                    "Steinfeld", /* plant */
+                                                                    "Main Contractor",
+                                                                    "Harbour Street 1",
+                                                                    "D-20457",
+                                                                    "Hamburg", /* site */
+                                                                    "21.11.2026",
+                                                                    "01",
+                                                                    "Floor slab, fair-faced underside"};
     it_char16 projectBuffers[IT_PROJECT_TEXT_COUNT][TEXT_MAX];
     const it_char16* project[IT_PROJECT_TEXT_COUNT];
     it_char16 info[4][TEXT_MAX];
@@ -62,7 +75,7 @@ int main(int argc, char** argv)
         /* A mounted socket box: two values, then one straight piece x0 y0 x1 y1. */
         static const int32_t socket[] = {1, 0, 4500, 1200, 4600, 1300};
         /* Two lattice girders: groups of ten values. */
-        static const int32_t girders[] = {8, 80, 300, 400, 60, 0, 1, 10, 1500, 5400,
+        static const int32_t girders[] = {8, 80, 300, 400,  60, 0, 1, 10, 1500, 5400,
                                           8, 80, 300, 2000, 60, 0, 1, 10, 1500, 5400};
         it_char16 name[TEXT_MAX];
         ItCutoutBlock stair;
@@ -81,19 +94,17 @@ int main(int argc, char** argv)
         static const int32_t barAlong[3] = {150, 150, 0};
         static const int32_t barAcross[3] = {150, 150, 0};
         /* A hook: seven segments of length and angle. */
-        static const ItFreeFormSegment hook[7] = {
-            {250, 90, {0, 0}}, {1200, 0, {0, 0}}, {250, -90, {0, 0}}, {400, 45, {0, 0}},
-            {300, 0, {0, 0}},  {150, -45, {0, 0}}, {100, 0, {0, 0}}};
+        static const ItFreeFormSegment hook[7] = {{250, 90, {0, 0}}, {1200, 0, {0, 0}}, {250, -90, {0, 0}},
+                                                  {400, 45, {0, 0}}, {300, 0, {0, 0}},  {150, -45, {0, 0}},
+                                                  {100, 0, {0, 0}}};
         it_char16 name[TEXT_MAX];
         it_char16 extra[TEXT_MAX];
         ItBarBlock bar = {0};
 
         addSteelmat(text16("Q188A", name), 5800, 2200, 1, 0, 1, matPosition);
         /* One bar along the mat and one across it. */
-        addCFSRodstock(1, text16("B500B", name), 5800, 8, 0, barAlong, 35, 0, text16("pos 1", extra),
-                       1, 0, 0, 0, 0);
-        addCFSRodstock(1, text16("B500B", name), 2200, 8, 0, barAcross, 43, 90, text16("pos 2", extra),
-                       1, 0, 0, 0, 0);
+        addCFSRodstock(1, text16("B500B", name), 5800, 8, 0, barAlong, 35, 0, text16("pos 1", extra), 1, 0, 0, 0, 0);
+        addCFSRodstock(1, text16("B500B", name), 2200, 8, 0, barAcross, 43, 90, text16("pos 2", extra), 1, 0, 0, 0, 0);
 
         /* A loose straight bar along the opening. */
         bar.designation = text16("B500B", name);

@@ -153,8 +153,8 @@ void Step(FuzzInput& in)
         const std::u16string designation = in.Text(12);
         const std::u16string extra = in.Text(12);
         const std::vector<std::int32_t> v = Values(in, 14);
-        addCFSRodstock(v[0], C(designation), v[1], v[2], v[3], v.data() + 4, v[7], v[8], C(extra), v[9],
-                       v[10], v[11], v[12], v[13] % 1000);
+        addCFSRodstock(v[0], C(designation), v[1], v[2], v[3], v.data() + 4, v[7], v[8], C(extra), v[9], v[10], v[11],
+                       v[12], v[13] % 1000);
         break;
     }
     case 11: {

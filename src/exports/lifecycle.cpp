@@ -17,9 +17,8 @@ extern "C" {
 // Nothing thrown inside the library reaches the host: each export ends in a
 // handler that gives the result the header names for that case.
 
-ITUNITECHNIK_API int32_t startOrder(uint16_t orderValue, int32_t elementNumberArg,
-                                    const double* placement, uint16_t version,
-                                    const it_char16* elementTextArg, double elementMeasureArg,
+ITUNITECHNIK_API int32_t startOrder(uint16_t orderValue, int32_t elementNumberArg, const double* placement,
+                                    uint16_t version, const it_char16* elementTextArg, double elementMeasureArg,
                                     bool clearDocument)
 try {
     if (clearDocument) {

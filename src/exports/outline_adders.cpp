@@ -36,8 +36,7 @@ template <class Owner>
 void AddChain(Owner& owner, int32_t pointCount, const int32_t* points)
 {
     for (int32_t i = 1; i < pointCount; ++i) {
-        AddStraightPiece(owner, points[2 * (i - 1)], points[2 * (i - 1) + 1], points[2 * i],
-                         points[2 * i + 1]);
+        AddStraightPiece(owner, points[2 * (i - 1)], points[2 * (i - 1) + 1], points[2 * i], points[2 * i + 1]);
     }
 }
 
@@ -47,8 +46,7 @@ uint32_t Distance(int32_t low, int32_t high)
     return difference < 0 ? 0u - static_cast<uint32_t>(difference) : static_cast<uint32_t>(difference);
 }
 
-int32_t AddMountingPart(ElementPart& element, const it_char16* setName, int32_t valueCount,
-                        const int32_t* values)
+int32_t AddMountingPart(ElementPart& element, const it_char16* setName, int32_t valueCount, const int32_t* values)
 {
     MountingPart part(element.version);
     part.setValue1 = values[0];
@@ -80,8 +78,7 @@ int32_t AddMountingPart(ElementPart& element, const it_char16* setName, int32_t 
     return 1;
 }
 
-int32_t AddGirders(ElementPart& element, const it_char16* setName, int32_t valueCount,
-                   const int32_t* values)
+int32_t AddGirders(ElementPart& element, const it_char16* setName, int32_t valueCount, const int32_t* values)
 {
     // Groups of ten; a count that is not a multiple of ten is rounded up.
     for (int32_t index = 0; index < valueCount; index += 10) {
@@ -141,8 +138,7 @@ try {
     // Nothing to report: the call ends here.
 }
 
-ITUNITECHNIK_API int32_t addSet(int32_t setKind, const it_char16* setName, int32_t valueCount,
-                                const int32_t* values)
+ITUNITECHNIK_API int32_t addSet(int32_t setKind, const it_char16* setName, int32_t valueCount, const int32_t* values)
 try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {

@@ -38,9 +38,8 @@ extern "C" {
 // Nothing thrown inside the library reaches the host: each export ends in a
 // handler that gives the result the header names for that case.
 
-ITUNITECHNIK_API int32_t addSteelmat(const it_char16* name, int32_t firstDimension,
-                                     int32_t secondDimension, int32_t firstFlag,
-                                     int32_t secondFlag, int32_t matKind, const int32_t* position)
+ITUNITECHNIK_API int32_t addSteelmat(const it_char16* name, int32_t firstDimension, int32_t secondDimension,
+                                     int32_t firstFlag, int32_t secondFlag, int32_t matKind, const int32_t* position)
 try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
@@ -48,20 +47,19 @@ try {
     }
     element->reinforcement.present = true;
     element->reinforcement.matFlag = 1;
-    const int16_t number = element->reinforcement.appendSteelmat(
-        FromHost(name), firstDimension, secondDimension, firstFlag, secondFlag, matKind, position);
+    const int16_t number = element->reinforcement.appendSteelmat(FromHost(name), firstDimension, secondDimension,
+                                                                 firstFlag, secondFlag, matKind, position);
     element->updateExtents();
     return number;
 } catch (...) {
     return 0;
 }
 
-ITUNITECHNIK_API int32_t addCFSRodstock(int32_t rodKind, const it_char16* designation,
-                                        int32_t firstSize, int32_t secondSize, int32_t thirdSize,
-                                        const int32_t* position, int32_t positionZ,
-                                        int32_t rotation, const it_char16* extraDesignation,
-                                        int32_t mountFlag, int32_t auxFirst, int32_t auxFourth,
-                                        int32_t auxFifth, int32_t flagsCode)
+ITUNITECHNIK_API int32_t addCFSRodstock(int32_t rodKind, const it_char16* designation, int32_t firstSize,
+                                        int32_t secondSize, int32_t thirdSize, const int32_t* position,
+                                        int32_t positionZ, int32_t rotation, const it_char16* extraDesignation,
+                                        int32_t mountFlag, int32_t auxFirst, int32_t auxFourth, int32_t auxFifth,
+                                        int32_t flagsCode)
 try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {
@@ -148,8 +146,7 @@ try {
     // Nothing to report: the call ends here.
 }
 
-ITUNITECHNIK_API int32_t addExtIron(int32_t ironCode, int32_t ironCount, double ironValue,
-                                    const it_char16* ironText)
+ITUNITECHNIK_API int32_t addExtIron(int32_t ironCode, int32_t ironCount, double ironValue, const it_char16* ironText)
 try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {

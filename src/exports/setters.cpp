@@ -88,8 +88,8 @@ try {
     // Nothing to report: the call ends here.
 }
 
-ITUNITECHNIK_API void addLayer(uint16_t layerKind, double thicknessMetres, double firstFactor,
-                               double secondFactor, const it_char16* layerName)
+ITUNITECHNIK_API void addLayer(uint16_t layerKind, double thicknessMetres, double firstFactor, double secondFactor,
+                               const it_char16* layerName)
 try {
     ElementPart* element = theDocument.CurrentElement();
     if (element == nullptr) {

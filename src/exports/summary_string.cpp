@@ -27,7 +27,7 @@ const it_char16 kErrorExternalIrons[] = {'E', 'R', 'R', 'O', 'R', ' ', 'E', 'X',
 // The text could not be made: memory ran out on the way.
 const it_char16 kErrorMemory[] = {'E', 'R', 'R', 'O', 'R', ' ', 'M', 'E', 'M', 'O', 'R', 'Y', 0};
 
-const it_char16* const kConstants[] = {kEmpty, kErrorMountingParts, kErrorRodstocks,
+const it_char16* const kConstants[] = {kEmpty,        kErrorMountingParts, kErrorRodstocks,
                                        kErrorGirders, kErrorReinforcement, kErrorExternalIrons,
                                        kErrorMemory};
 

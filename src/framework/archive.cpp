@@ -6,8 +6,7 @@
 
 namespace ItUnitechnik {
 
-Archive::Archive(std::basic_streambuf<wchar_t>* buffer)
-    : std::basic_iostream<wchar_t>(buffer)
+Archive::Archive(std::basic_streambuf<wchar_t>* buffer) : std::basic_iostream<wchar_t>(buffer)
 {
     imbue(ClassicNumberLocale());
     Fields::KeepPlainDigits(*this);

@@ -53,7 +53,7 @@ private:
     Platform::OutputFile file_;
     std::size_t areaSize_;
     std::unique_ptr<wchar_t[]> area_;
-    std::unique_ptr<char[]> bytes_; // two bytes for each character at most
+    std::unique_ptr<char[]> bytes_;    // two bytes for each character at most
     const wchar_t* scanned_ = nullptr; // the area before this was looked through by sync
     bool broken_ = false;
 };

@@ -13,10 +13,7 @@ class FieldBuffer : public std::basic_streambuf<wchar_t> {
 public:
     // The put position when at least `count` characters fit behind it, else
     // null: the field then goes through sputc, which makes room.
-    wchar_t* Room(std::size_t count)
-    {
-        return static_cast<std::size_t>(epptr() - pptr()) >= count ? pptr() : nullptr;
-    }
+    wchar_t* Room(std::size_t count) { return static_cast<std::size_t>(epptr() - pptr()) >= count ? pptr() : nullptr; }
     // Takes the `count` characters stored at Room as put.
     void Advance(std::size_t count) { pbump(static_cast<int>(count)); }
 };

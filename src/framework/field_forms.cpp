@@ -75,8 +75,8 @@ std::wostream& operator<<(std::wostream& os, const RealForm& form)
     os.setf(std::ios_base::right, std::ios_base::adjustfield);
     if (Fields::PlainDigits(os)) {
         char text[128];
-        const std::size_t length = FixedCharacters(form.value, form.decimals,
-                                                   (os.flags() & std::ios_base::showpoint) != 0, text, 127);
+        const std::size_t length =
+            FixedCharacters(form.value, form.decimals, (os.flags() & std::ios_base::showpoint) != 0, text, 127);
         if (length > 0) {
             // The sign as RealFormat sets it: a minus from the digits, else a
             // plus sign where one is in force.

@@ -85,8 +85,8 @@ void PutPaddedOnGoodStream(std::wostream& os, const wchar_t* text, std::size_t l
                 before = prefix;
             }
         }
-        if (!(Put(buffer, text, before) && PutFill(buffer, os.fill(), padding)
-              && Put(buffer, text + before, length - before))) {
+        if (!(Put(buffer, text, before) && PutFill(buffer, os.fill(), padding) &&
+              Put(buffer, text + before, length - before))) {
             os.setstate(std::ios_base::badbit);
         }
     } catch (...) {
@@ -153,8 +153,7 @@ bool PutIntegerDirect(std::wostream& os, FieldBuffer& direct, const IntegerValue
             *out++ = fill;
         }
     }
-    const wchar_t* const names =
-        (flags & std::ios_base::uppercase) != 0 ? L"0123456789ABCDEF" : L"0123456789abcdef";
+    const wchar_t* const names = (flags & std::ios_base::uppercase) != 0 ? L"0123456789ABCDEF" : L"0123456789abcdef";
     if (hexadecimal) {
         WriteDigits<16>(out, digitCount, value.magnitude, names);
     } else {
@@ -175,8 +174,7 @@ bool PutIntegerDirect(std::wostream& os, FieldBuffer& direct, const IntegerValue
 
 FieldBuffer* DirectBuffer(std::wostream& os)
 {
-    if (os.rdstate() != std::ios_base::goodbit || os.tie() != nullptr
-        || (os.flags() & std::ios_base::unitbuf) != 0) {
+    if (os.rdstate() != std::ios_base::goodbit || os.tie() != nullptr || (os.flags() & std::ios_base::unitbuf) != 0) {
         return nullptr;
     }
     void* const marked = os.pword(FieldBufferIndex());

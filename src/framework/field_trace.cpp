@@ -61,8 +61,9 @@ void FieldTrace::End(const Mark& mark, const FieldFacts& facts)
 void FieldTrace::Tell(FieldProblem problem, const FieldFacts& facts, std::size_t line, std::size_t column,
                       std::wstring value, const std::wstring& written)
 {
-    FieldEvent event{problem,     tag_, record_, facts.member != nullptr ? facts.member : "", line, column,
-                     facts.width, std::move(value), written};
+    FieldEvent event{problem, tag_,   record_,     facts.member != nullptr ? facts.member : "",
+                     line,    column, facts.width, std::move(value),
+                     written};
     sink_.Report(event);
 }
 

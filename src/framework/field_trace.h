@@ -22,9 +22,9 @@ struct FieldFacts {
     enum class Kind { text, number, character, other };
     Kind kind = Kind::other;
     const char* member = nullptr;
-    int width = 0;                        // places of the field, a sign place included
-    const std::wstring* whole = nullptr;  // a text: the value as the record holds it
-    std::size_t kept = 0;                 // a text: the characters the form kept of it
+    int width = 0;                       // places of the field, a sign place included
+    const std::wstring* whole = nullptr; // a text: the value as the record holds it
+    std::size_t kept = 0;                // a text: the characters the form kept of it
 };
 
 inline FieldFacts FactsOf(const TextForm& form)
@@ -68,38 +68,53 @@ inline FieldFacts FactsOf(const CharForm& form)
 }
 
 template <class T>
-struct IsFieldForm : std::false_type {};
+struct IsFieldForm : std::false_type {
+};
 template <>
-struct IsFieldForm<TextForm> : std::true_type {};
+struct IsFieldForm<TextForm> : std::true_type {
+};
 template <class T>
-struct IsFieldForm<IntegerForm<T>> : std::true_type {};
+struct IsFieldForm<IntegerForm<T>> : std::true_type {
+};
 template <>
-struct IsFieldForm<RealForm> : std::true_type {};
+struct IsFieldForm<RealForm> : std::true_type {
+};
 template <>
-struct IsFieldForm<CharForm> : std::true_type {};
+struct IsFieldForm<CharForm> : std::true_type {
+};
 template <>
-struct IsFieldForm<LiteralForm> : std::true_type {};
+struct IsFieldForm<LiteralForm> : std::true_type {
+};
 template <>
-struct IsFieldForm<BlankForm> : std::true_type {};
+struct IsFieldForm<BlankForm> : std::true_type {
+};
 template <>
-struct IsFieldForm<BlanksForm> : std::true_type {};
+struct IsFieldForm<BlanksForm> : std::true_type {
+};
 template <>
-struct IsFieldForm<EndLineForm> : std::true_type {};
+struct IsFieldForm<EndLineForm> : std::true_type {
+};
 template <>
-struct IsFieldForm<TagForm> : std::true_type {};
+struct IsFieldForm<TagForm> : std::true_type {
+};
 
 // Forms that carry a value; the others (literals, blanks, line ends, tags)
 // are only counted.
 template <class T>
-struct IsValueForm : std::false_type {};
+struct IsValueForm : std::false_type {
+};
 template <>
-struct IsValueForm<TextForm> : std::true_type {};
+struct IsValueForm<TextForm> : std::true_type {
+};
 template <class T>
-struct IsValueForm<IntegerForm<T>> : std::true_type {};
+struct IsValueForm<IntegerForm<T>> : std::true_type {
+};
 template <>
-struct IsValueForm<RealForm> : std::true_type {};
+struct IsValueForm<RealForm> : std::true_type {
+};
 template <>
-struct IsValueForm<CharForm> : std::true_type {};
+struct IsValueForm<CharForm> : std::true_type {
+};
 
 // The buffer that an Archive with a field sink writes through. Every
 // character goes on to the Archive's own buffer unchanged; on the way the
@@ -142,8 +157,8 @@ protected:
 private:
     void Note(const wchar_t* text, std::size_t count);
     void KeepRefused(wchar_t character);
-    void Tell(FieldProblem problem, const FieldFacts& facts, std::size_t line, std::size_t column,
-              std::wstring value, const std::wstring& written);
+    void Tell(FieldProblem problem, const FieldFacts& facts, std::size_t line, std::size_t column, std::wstring value,
+              const std::wstring& written);
 
     std::basic_streambuf<wchar_t>* next_;
     FieldSink& sink_;

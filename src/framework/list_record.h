@@ -19,8 +19,7 @@ struct ListFrame {
 };
 
 template <class T>
-bool WriteList(Archive& ar, const void* record, std::int16_t version, const ListFrame& frame,
-               std::vector<T>& entries)
+bool WriteList(Archive& ar, const void* record, std::int16_t version, const ListFrame& frame, std::vector<T>& entries)
 {
     const RecordScope scope(ar, record);
     ar << Tag(frame.tag);
@@ -52,8 +51,7 @@ bool ReadList(Archive& ar, const wchar_t* tag, std::int16_t& version, Make make,
     std::int32_t count = 0;
     ar >> count;
     ReadElements(ar, count, make, entries);
-    const bool ended =
-        wrongEnd == WrongEnd::spoilsArchive ? ExpectToken(ar, L"END") : Matches(ReadToken(ar), L"END");
+    const bool ended = wrongEnd == WrongEnd::spoilsArchive ? ExpectToken(ar, L"END") : Matches(ReadToken(ar), L"END");
     return ended && Healthy(ar);
 }
 

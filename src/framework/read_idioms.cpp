@@ -86,9 +86,8 @@ namespace ItUnitechnik {
 int WideToInt(const std::wstring& text)
 {
     std::size_t i = 0;
-    while (i < text.size()
-           && (text[i] == L' ' || text[i] == L'\t' || text[i] == L'\n' || text[i] == L'\v'
-               || text[i] == L'\f' || text[i] == L'\r')) {
+    while (i < text.size() && (text[i] == L' ' || text[i] == L'\t' || text[i] == L'\n' || text[i] == L'\v' ||
+                               text[i] == L'\f' || text[i] == L'\r')) {
         ++i;
     }
     bool negative = false;

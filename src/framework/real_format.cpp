@@ -41,8 +41,7 @@ std::string Digits(double value, const std::ios_base& str)
         } else if (floatfield == (std::ios_base::fixed | std::ios_base::scientific)) {
             result = std::to_chars(first, last, value, std::chars_format::hex);
         } else {
-            result = std::to_chars(first, last, value, std::chars_format::general,
-                                   precision == 0 ? 1 : precision);
+            result = std::to_chars(first, last, value, std::chars_format::general, precision == 0 ? 1 : precision);
         }
         if (result.ec == std::errc()) {
             text.resize(static_cast<std::size_t>(result.ptr - first));
@@ -65,8 +64,7 @@ std::string Digits(double value, const std::ios_base& str)
 
 } // namespace
 
-RealFormat::iter_type RealFormat::do_put(iter_type out, std::ios_base& str, wchar_t fill,
-                                         double value) const
+RealFormat::iter_type RealFormat::do_put(iter_type out, std::ios_base& str, wchar_t fill, double value) const
 {
     std::string text = Digits(value, str);
     std::size_t signLength = 0;
@@ -91,21 +89,24 @@ RealFormat::iter_type RealFormat::do_put(iter_type out, std::ios_base& str, wcha
     };
 
     if (adjust == std::ios_base::left) {
-        for (char c : text) emit(c);
+        for (char c : text)
+            emit(c);
         pad();
     } else if (adjust == std::ios_base::internal) {
-        for (std::size_t i = 0; i < signLength; ++i) emit(text[i]);
+        for (std::size_t i = 0; i < signLength; ++i)
+            emit(text[i]);
         pad();
-        for (std::size_t i = signLength; i < text.size(); ++i) emit(text[i]);
+        for (std::size_t i = signLength; i < text.size(); ++i)
+            emit(text[i]);
     } else {
         pad();
-        for (char c : text) emit(c);
+        for (char c : text)
+            emit(c);
     }
     return out;
 }
 
-RealFormat::iter_type RealFormat::do_put(iter_type out, std::ios_base& str, wchar_t fill,
-                                         long double value) const
+RealFormat::iter_type RealFormat::do_put(iter_type out, std::ios_base& str, wchar_t fill, long double value) const
 {
     return do_put(out, str, fill, static_cast<double>(value));
 }

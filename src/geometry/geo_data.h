@@ -32,8 +32,8 @@ public:
     // Fails, and clears the Archive's valid flag, when there is no curve.
     bool Write(Archive& ar) override;
 
-    std::int32_t version = 0;   // not written; handed on to the curve that Read makes
-    wchar_t elementKind = 0;    // first field
+    std::int32_t version = 0;     // not written; handed on to the curve that Read makes
+    wchar_t elementKind = 0;      // first field
     std::unique_ptr<Curve> curve; // the rest of the line
 };
 

@@ -7,7 +7,8 @@
 namespace ItUnitechnik {
 
 Polygon::Polygon(std::int32_t formatVersion)
-    : Curve(formatVersion), PointCollection([](auto& self) -> auto& { return static_cast<Polygon&>(self).points; }), FlagCollection([](auto& self) -> auto& { return static_cast<Polygon&>(self).segmentFlags; })
+    : Curve(formatVersion), PointCollection([](auto& self) -> auto& { return static_cast<Polygon&>(self).points; }),
+      FlagCollection([](auto& self) -> auto& { return static_cast<Polygon&>(self).segmentFlags; })
 {
 }
 

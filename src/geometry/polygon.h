@@ -28,14 +28,14 @@ public:
     // The editing operations of both collections; their element types tell
     // them apart. Clear and Changed are reached through PointCollection or
     // FlagCollection.
-    using PointCollection::Insert;
-    using FlagCollection::Insert;
-    using PointCollection::Add;
     using FlagCollection::Add;
-    using PointCollection::RemoveRange;
-    using FlagCollection::RemoveRange;
-    using PointCollection::Remove;
+    using FlagCollection::Insert;
     using FlagCollection::Remove;
+    using FlagCollection::RemoveRange;
+    using PointCollection::Add;
+    using PointCollection::Insert;
+    using PointCollection::Remove;
+    using PointCollection::RemoveRange;
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
@@ -49,8 +49,8 @@ public:
     // The inverted box for a polygon without points.
     BoundingBox boundingBox() const override;
 
-    std::vector<Point2d> points;             // the chain, after the count
-    std::vector<std::int32_t> segmentFlags;  // entry i behind point i + 1, four hexadecimal digits
+    std::vector<Point2d> points;            // the chain, after the count
+    std::vector<std::int32_t> segmentFlags; // entry i behind point i + 1, four hexadecimal digits
 };
 
 } // namespace ItUnitechnik

@@ -25,8 +25,14 @@ void AppendCodePoint(std::string& out, unsigned long cp)
     }
 }
 
-bool IsHighSurrogate(unsigned long u) { return u >= 0xD800 && u <= 0xDBFF; }
-bool IsLowSurrogate(unsigned long u) { return u >= 0xDC00 && u <= 0xDFFF; }
+bool IsHighSurrogate(unsigned long u)
+{
+    return u >= 0xD800 && u <= 0xDBFF;
+}
+bool IsLowSurrogate(unsigned long u)
+{
+    return u >= 0xDC00 && u <= 0xDFFF;
+}
 
 } // namespace
 
@@ -37,8 +43,7 @@ std::string ToUtf8(const std::wstring& text)
     out.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
         const unsigned long unit = static_cast<unsigned long>(text[i]) & 0xFFFFFFFFul;
-        if (IsHighSurrogate(unit) && i + 1 < text.size()
-            && IsLowSurrogate(static_cast<unsigned long>(text[i + 1]))) {
+        if (IsHighSurrogate(unit) && i + 1 < text.size() && IsLowSurrogate(static_cast<unsigned long>(text[i + 1]))) {
             const unsigned long low = static_cast<unsigned long>(text[i + 1]);
             AppendCodePoint(out, 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00));
             ++i;

@@ -31,8 +31,8 @@ OutputFile::OutputFile(const std::wstring& path)
 {
     // Output only, cut when it exists, and open for others to read and write
     // while the document is being written.
-    const HANDLE file = ::CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                      nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE file = ::CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                      CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file != INVALID_HANDLE_VALUE) {
         handle_ = file;
     }
@@ -96,14 +96,12 @@ std::string ToUtf8(const std::wstring& text)
     }
     const int units = static_cast<int>(text.size());
     // Once for the byte count, once to convert; either failing gives nothing.
-    const int bytes = ::WideCharToMultiByte(utf8CodePage, 0, text.data(), units, nullptr, 0, nullptr,
-                                            nullptr);
+    const int bytes = ::WideCharToMultiByte(utf8CodePage, 0, text.data(), units, nullptr, 0, nullptr, nullptr);
     if (bytes == 0) {
         return std::string();
     }
     std::string out(static_cast<std::size_t>(bytes), '\0');
-    if (::WideCharToMultiByte(utf8CodePage, 0, text.data(), units, &out[0], bytes, nullptr, nullptr)
-        == 0) {
+    if (::WideCharToMultiByte(utf8CodePage, 0, text.data(), units, &out[0], bytes, nullptr, nullptr) == 0) {
         return std::string();
     }
     return out;
@@ -113,8 +111,8 @@ void WriteAlternateStream(const std::string& streamNameUtf8, const char* bytes, 
 {
     // An NTFS stream `file:orderN`: created when missing, never cut, written
     // from its first byte. A stream that cannot be opened is passed over.
-    const HANDLE stream = ::CreateFileA(streamNameUtf8.c_str(), GENERIC_WRITE, FILE_SHARE_WRITE,
-                                        nullptr, OPEN_ALWAYS, 0, nullptr);
+    const HANDLE stream =
+        ::CreateFileA(streamNameUtf8.c_str(), GENERIC_WRITE, FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS, 0, nullptr);
     if (stream == INVALID_HANDLE_VALUE) {
         return;
     }

@@ -12,8 +12,8 @@ namespace {
 
 std::string Describe(const ReadStop& stop)
 {
-    std::string text = "line " + std::to_string(stop.line) + ", column " + std::to_string(stop.column) +
-                       ": expected " + stop.expected;
+    std::string text =
+        "line " + std::to_string(stop.line) + ", column " + std::to_string(stop.column) + ": expected " + stop.expected;
     if (!stop.record.empty()) {
         text += " in " + stop.record;
     }
@@ -172,9 +172,8 @@ std::int64_t FieldReader::Integer(NumberKind kind, int width)
 {
     const bool isSigned = kind == NumberKind::signedField;
     const std::size_t places = static_cast<std::size_t>(std::max(width, 1)) + (isSigned ? 1 : 0);
-    const std::string field =
-        Narrow(Take(places, isSigned ? IsSignedFieldChar : IsUnsignedFieldChar, MoreDigits,
-                    isSigned ? "a signed number" : "a number"));
+    const std::string field = Narrow(Take(places, isSigned ? IsSignedFieldChar : IsUnsignedFieldChar, MoreDigits,
+                                          isSigned ? "a signed number" : "a number"));
 
     bool negative = false;
     std::string digits;
@@ -221,7 +220,8 @@ std::int32_t FieldReader::Hex(int width)
 double FieldReader::Real(int places, int decimals)
 {
     const std::size_t width = static_cast<std::size_t>(std::max(places + decimals + 1, 1));
-    std::string field = Narrow(Take(width, IsRealFieldChar, decimals > 0 ? MoreRealChars : MoreDigits, "a real number"));
+    std::string field =
+        Narrow(Take(width, IsRealFieldChar, decimals > 0 ? MoreRealChars : MoreDigits, "a real number"));
 
     // The fill zeros stand in front of a sign, a word or the digits.
     const std::size_t start = field.find_first_not_of('0');
@@ -240,10 +240,10 @@ double FieldReader::Real(int places, int decimals)
     }
     // Digits, then the point and exactly the decimals the form prints.
     const std::size_t point = body.find('.');
-    const bool wellFormed =
-        !body.empty() && body.find_first_not_of("0123456789.") == std::string::npos &&
-        (decimals > 0 ? point != std::string::npos && point > 0 && body.size() - point - 1 == static_cast<std::size_t>(decimals)
-                      : point == std::string::npos);
+    const bool wellFormed = !body.empty() && body.find_first_not_of("0123456789.") == std::string::npos &&
+                            (decimals > 0 ? point != std::string::npos && point > 0 &&
+                                                body.size() - point - 1 == static_cast<std::size_t>(decimals)
+                                          : point == std::string::npos);
     if (!wellFormed) {
         Fail("a real number with " + std::to_string(decimals) + " decimals");
     }

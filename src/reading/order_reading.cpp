@@ -122,8 +122,8 @@ void Loader::LoadOrder(Order& order)
 
 void Loader::LoadProject(Project& project)
 {
-    for (std::wstring* text : {&project.projectText1, &project.projectText2, &project.projectText3,
-                               &project.projectText4}) {
+    for (std::wstring* text :
+         {&project.projectText1, &project.projectText2, &project.projectText3, &project.projectText4}) {
         *text = in_.Text(20);
         in_.EndLine();
     }

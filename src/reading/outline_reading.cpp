@@ -110,7 +110,8 @@ void Loader::LoadGeoDataLines(std::vector<GeoData>& elements, std::int32_t versi
 void Loader::LoadContours(ContourData& data)
 {
     data.version = List(
-        "CONTOUR_", [](std::int16_t) { return 2; }, data.contours, [](std::int16_t version) { return Contour(version); },
+        "CONTOUR_", [](std::int16_t) { return 2; }, data.contours,
+        [](std::int16_t version) { return Contour(version); },
         [this](Contour& contour) {
             contour.contourNumber = in_.UInt<std::int32_t>(2);
             in_.Blank();

@@ -261,9 +261,9 @@ void Loader::LoadSpacers(SpacerData& spacers)
         spacers.positions.emplace_back();
         SpacerPosition& position = spacers.positions.back();
         bool first = true;
-        for (std::int32_t* value : {&position.value1, &position.value2, &position.value3, &position.value4,
-                                    &position.value5, &position.value6, &position.value7, &position.value8,
-                                    &position.value9, &position.value10}) {
+        for (std::int32_t* value :
+             {&position.value1, &position.value2, &position.value3, &position.value4, &position.value5,
+              &position.value6, &position.value7, &position.value8, &position.value9, &position.value10}) {
             if (!first) {
                 in_.Blank();
             }

@@ -15,9 +15,9 @@
 namespace ItUnitechnik {
 
 struct TolerantDocument {
-    std::vector<Order> orders;     // every order read, the last one perhaps in part
-    std::optional<ReadStop> stop;  // where the reading stopped, when it did not reach the end
-    bool trailingData = false;     // the stop is at bytes behind the last whole order
+    std::vector<Order> orders;             // every order read, the last one perhaps in part
+    std::optional<ReadStop> stop;          // where the reading stopped, when it did not reach the end
+    bool trailingData = false;             // the stop is at bytes behind the last whole order
     std::vector<std::size_t> bareLineEnds; // lines (from 1) not ended by CR LF
     std::set<Departure> departures;        // what the document needed of the list
 

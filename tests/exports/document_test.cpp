@@ -133,8 +133,7 @@ TEST_F(DocumentTest, TheStreamTextIsUtf8)
     AddOrder(600, L"\u00E9\u20AC");
     const std::string path = dir.File("a.txt");
     theDocument.Save(Wide(path));
-    EXPECT_EQ(ReadFileBytes(path + ":order0"),
-              std::string("\xC3\xA9\xE2\x82\xAC") + '\0' + std::string(34, ' '));
+    EXPECT_EQ(ReadFileBytes(path + ":order0"), std::string("\xC3\xA9\xE2\x82\xAC") + '\0' + std::string(34, ' '));
 }
 
 TEST_F(DocumentTest, AnExistingStreamIsOverwrittenFromItsStartNotCut)
@@ -146,8 +145,7 @@ TEST_F(DocumentTest, AnExistingStreamIsOverwrittenFromItsStartNotCut)
     }
     AddOrder(600, L"new");
     theDocument.Save(Wide(path));
-    EXPECT_EQ(ReadFileBytes(path + ":order0"),
-              std::string("new") + '\0' + std::string(36, ' ') + std::string(10, 'x'));
+    EXPECT_EQ(ReadFileBytes(path + ":order0"), std::string("new") + '\0' + std::string(36, ' ') + std::string(10, 'x'));
 }
 
 TEST_F(DocumentTest, SavingAgainWritesTheSameBytes)

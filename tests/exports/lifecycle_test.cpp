@@ -97,8 +97,7 @@ protected:
     static const ElementPart& Start(int32_t number, const double* where, uint16_t version)
     {
         const std::u16string text = u"Slab 1";
-        startOrder(1, number, where, version, reinterpret_cast<const it_char16*>(text.c_str()), 1.5,
-                   true);
+        startOrder(1, number, where, version, reinterpret_cast<const it_char16*>(text.c_str()), 1.5, true);
         return theDocument.orders.back().elementParts.back();
     }
 };

@@ -165,7 +165,7 @@ TEST_F(OutlineAddersTest, AnAreaBeyond32BitsWraps)
 
 TEST_F(OutlineAddersTest, GirdersInGroupsOfTen)
 {
-    const int32_t values[] = {11, 80, 100, 200, 30, 90, 3, 12, 1500, 6000,
+    const int32_t values[] = {11, 80, 100, 200, 30, 90,  3, 12, 1500,   6000,
                               12, 90, 400, 500, 30, -90, 4, 13, 123456, 7000};
     EXPECT_EQ(addSet(5, C(u"KT 800"), 20, values), 1);
     const auto& girders = Element().bracedGirderData.girders;

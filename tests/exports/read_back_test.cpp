@@ -34,8 +34,7 @@ protected:
         const int32_t position[3] = {100, 200, 0};
         addSteelmat(HostText(u"Q188A"), 2400, 6000, 1, 0, 1, position);
         const int32_t barPosition[3] = {10, 20, 0};
-        addCFSRodstock(1, HostText(u"B500"), 2300, 10, 0, barPosition, 35, 0, HostText(u"P1"), 1, 0,
-                       0, 0, 0);
+        addCFSRodstock(1, HostText(u"B500"), 2300, 10, 0, barPosition, 35, 0, HostText(u"P1"), 1, 0, 0, 0, 0);
     }
 
     static void AddLooseBar()
@@ -108,8 +107,7 @@ TEST_F(ReadBackTest, ABlockWithWellFormedIronsOfItsOwnReadsBack)
     Element().reinforcement.hasExternalIrons = true;
     Element().hasExternalIron = false;
     const std::wstring text = DocumentText();
-    ASSERT_NE(text.find(L"END STEELMAT\nEXTIRON_\n600\n000\nEND\nEND REFORCEM\nEND SLABDATE\n"),
-              std::wstring::npos);
+    ASSERT_NE(text.find(L"END STEELMAT\nEXTIRON_\n600\n000\nEND\nEND REFORCEM\nEND SLABDATE\n"), std::wstring::npos);
 
     StringArchive in(text);
     Order read;

@@ -41,8 +41,7 @@ protected:
     static int32_t AddCfs(int32_t flagsCode = 0)
     {
         const int32_t position[3] = {0, 0, 0};
-        return addCFSRodstock(0, HostText(u"D"), 0, 0, 0, position, 0, 0, HostText(u"X"), 0, 0, 0,
-                              0, flagsCode);
+        return addCFSRodstock(0, HostText(u"D"), 0, 0, 0, position, 0, 0, HostText(u"X"), 0, 0, 0, 0, flagsCode);
     }
 
     // The loose bars as the "RODSTOCK" record writes them.
@@ -121,8 +120,7 @@ TEST_F(ReinforcementAddersTest, CfsBarTakesEveryArgument)
 {
     AddMat();
     const int32_t position[3] = {-100, 250, 77};
-    EXPECT_EQ(addCFSRodstock(4, HostText(u"B500"), 1200, 12, 300, position, -30, 90,
-                             HostText(u"XD"), 1, 5, 6, 7, 0),
+    EXPECT_EQ(addCFSRodstock(4, HostText(u"B500"), 1200, 12, 300, position, -30, 90, HostText(u"XD"), 1, 5, 6, 7, 0),
               1);
     const Rodstock& bar = Element().reinforcement.mats[0].rodstocks.bars[0];
     EXPECT_EQ(bar.version, 600);
@@ -217,13 +215,12 @@ TEST_F(ReinforcementAddersTest, StraightBarReadsOnlyItsCells)
     EXPECT_FALSE(bar.mountFlag);
     EXPECT_EQ(bar.bendingKind, L'0');
     EXPECT_TRUE(bar.freeForm.parts.empty());
-    EXPECT_EQ(LooseBarsText(),
-              L"RODSTOCK\n"
-              L"600\n"
-              L"001\n"
-              L"001 000 3 BST500     01200 012 00250 +00100 -00200 +00030 -045            0\n"
-              L"000 000 000 00000 00000 00007 000\n"
-              L"END\n");
+    EXPECT_EQ(LooseBarsText(), L"RODSTOCK\n"
+                               L"600\n"
+                               L"001\n"
+                               L"001 000 3 BST500     01200 012 00250 +00100 -00200 +00030 -045            0\n"
+                               L"000 000 000 00000 00000 00007 000\n"
+                               L"END\n");
 }
 
 TEST_F(ReinforcementAddersTest, StraightBarsAreNumberedInTheElementsList)
@@ -372,16 +369,15 @@ TEST_F(FreeFormTest, SevenEntriesAsWritten)
     const ItBarBlock block = Block(2, 7);
     const auto entries = Entries(7);
     addFreeFormRodstock(&block, entries.data());
-    EXPECT_EQ(LooseBarsText(),
-              L"RODSTOCK\n"
-              L"600\n"
-              L"001\n"
-              L"001 000 2 FF         00100 008 00003 +00010 +00020 +00030 +015         EX 1\n"
-              L"001 000 000 00004 00005 00006 002\n"
-              L"000 02\n"
-              L"01 06 00100 -010 00200 -020 00300 -030 00400 -040 00500 -050 00600 -060\n"
-              L"02 01 00700 -070\n"
-              L"END\n");
+    EXPECT_EQ(LooseBarsText(), L"RODSTOCK\n"
+                               L"600\n"
+                               L"001\n"
+                               L"001 000 2 FF         00100 008 00003 +00010 +00020 +00030 +015         EX 1\n"
+                               L"001 000 000 00004 00005 00006 002\n"
+                               L"000 02\n"
+                               L"01 06 00100 -010 00200 -020 00300 -030 00400 -040 00500 -050 00600 -060\n"
+                               L"02 01 00700 -070\n"
+                               L"END\n");
 }
 
 TEST_F(FreeFormTest, CodeOneIgnoresTheEntries)
@@ -393,14 +389,13 @@ TEST_F(FreeFormTest, CodeOneIgnoresTheEntries)
     EXPECT_TRUE(Bar().freeForm.parts.empty());
     EXPECT_EQ(Bar().freeForm.formCode, L"");
     // Kind '1' writes the two coded forms, empty, and the angle.
-    EXPECT_EQ(LooseBarsText(),
-              L"RODSTOCK\n"
-              L"600\n"
-              L"001\n"
-              L"001 000 2 FF         00100 008 00003 +00010 +00020 +00030 +015         EX 1\n"
-              L"001 000 000 00004 00005 00006 001\n"
-              L"000 00000 00000 00000 00000 000 000 00000 00000 00000 00000 000 +000\n"
-              L"END\n");
+    EXPECT_EQ(LooseBarsText(), L"RODSTOCK\n"
+                               L"600\n"
+                               L"001\n"
+                               L"001 000 2 FF         00100 008 00003 +00010 +00020 +00030 +015         EX 1\n"
+                               L"001 000 000 00004 00005 00006 001\n"
+                               L"000 00000 00000 00000 00000 000 000 00000 00000 00000 00000 000 +000\n"
+                               L"END\n");
 }
 
 TEST_F(FreeFormTest, CodeFiveIsWrittenAndBehavesAsNone)
@@ -410,19 +405,18 @@ TEST_F(FreeFormTest, CodeFiveIsWrittenAndBehavesAsNone)
     addFreeFormRodstock(&block, entries.data());
     EXPECT_EQ(Bar().bendingKind, L'5');
     EXPECT_TRUE(Bar().freeForm.parts.empty());
-    EXPECT_EQ(LooseBarsText(),
-              L"RODSTOCK\n"
-              L"600\n"
-              L"001\n"
-              L"001 000 2 FF         00100 008 00003 +00010 +00020 +00030 +015         EX 1\n"
-              L"001 000 000 00004 00005 00006 005\n"
-              L"END\n");
+    EXPECT_EQ(LooseBarsText(), L"RODSTOCK\n"
+                               L"600\n"
+                               L"001\n"
+                               L"001 000 2 FF         00100 008 00003 +00010 +00020 +00030 +015         EX 1\n"
+                               L"001 000 000 00004 00005 00006 005\n"
+                               L"END\n");
 }
 
 // The bar block as raw bytes: every byte the table does not list carries the
 // marker, and the listed cells are written at their offsets.
-std::vector<unsigned char> MarkedBlock(unsigned char marker, bool freeFormCells,
-                                       const it_char16* designation, const it_char16* extra)
+std::vector<unsigned char> MarkedBlock(unsigned char marker, bool freeFormCells, const it_char16* designation,
+                                       const it_char16* extra)
 {
     std::vector<unsigned char> bytes(sizeof(ItBarBlock), marker);
     auto put = [&bytes](std::size_t offset, const void* value, std::size_t size) {
@@ -468,8 +462,7 @@ std::vector<unsigned char> MarkedSegments(unsigned char marker)
     return bytes;
 }
 
-class BarBlockMarkerTest : public ReinforcementAddersTest,
-                           public ::testing::WithParamInterface<unsigned char> {};
+class BarBlockMarkerTest : public ReinforcementAddersTest, public ::testing::WithParamInterface<unsigned char> {};
 
 TEST_P(BarBlockMarkerTest, UnlistedBytesDoNotReachTheFile)
 {
@@ -492,17 +485,16 @@ TEST_P(BarBlockMarkerTest, UnlistedBytesDoNotReachTheFile)
     std::memcpy(segments.data(), segmentBytes.data(), segmentBytes.size());
     addFreeFormRodstock(&freeBlock, segments.data());
 
-    EXPECT_EQ(LooseBarsText(),
-              L"RODSTOCK\n"
-              L"600\n"
-              L"002\n"
-              L"001 000 7 BAR        02000 014 00333 -01200 +03400 +00050 -180            0\n"
-              L"000 000 000 00000 00000 00066 000\n"
-              L"002 000 7 BAR        02000 014 00333 -01200 +03400 +00050 -180       XTRA 1\n"
-              L"009 000 000 00044 00055 00066 002\n"
-              L"000 01\n"
-              L"01 02 01500 +090 00800 -045\n"
-              L"END\n");
+    EXPECT_EQ(LooseBarsText(), L"RODSTOCK\n"
+                               L"600\n"
+                               L"002\n"
+                               L"001 000 7 BAR        02000 014 00333 -01200 +03400 +00050 -180            0\n"
+                               L"000 000 000 00000 00000 00066 000\n"
+                               L"002 000 7 BAR        02000 014 00333 -01200 +03400 +00050 -180       XTRA 1\n"
+                               L"009 000 000 00044 00055 00066 002\n"
+                               L"000 01\n"
+                               L"01 02 01500 +090 00800 -045\n"
+                               L"END\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(Markers, BarBlockMarkerTest, ::testing::Values(0x00, 0x5A, 0xA5, 0xFF));

@@ -24,29 +24,28 @@ using Testing::StringArchive;
 
 // What a document holds beside its one rectangular contour.
 enum Content : unsigned {
-    kCutouts = 1u << 0,         // two openings
-    kPartsWithout = 1u << 1,    // a mounted part with no outline pieces
-    kPartsWith = 1u << 2,       // a mounted part with two pieces
-    kMats = 1u << 3,            // two mats, a bar in the second
-    kLooseBars = 1u << 4,       // a straight and a free-form bar
-    kGirders = 1u << 5,         // two girders
-    kIrons = 1u << 6,           // two external irons
-    kLayers = 1u << 7,          // a layer with a lot; its block has irons of its own
-    kLayersNoIrons = 1u << 8,   // a layer whose block has none
-    kLotText20 = 1u << 9,       // the lot's last text set
+    kCutouts = 1u << 0,       // two openings
+    kPartsWithout = 1u << 1,  // a mounted part with no outline pieces
+    kPartsWith = 1u << 2,     // a mounted part with two pieces
+    kMats = 1u << 3,          // two mats, a bar in the second
+    kLooseBars = 1u << 4,     // a straight and a free-form bar
+    kGirders = 1u << 5,       // two girders
+    kIrons = 1u << 6,         // two external irons
+    kLayers = 1u << 7,        // a layer with a lot; its block has irons of its own
+    kLayersNoIrons = 1u << 8, // a layer whose block has none
+    kLotText20 = 1u << 9,     // the lot's last text set
 };
 
 enum class Outcome {
-    kSameText,      // reads back, and the read orders write the same text
-    kChangedText,   // reads back, but the text written again differs
-    kOrderHead,     // the order's own lines do not read back (503 to 599)
-    kElementLost,   // the order reads, the element does not
+    kSameText,    // reads back, and the read orders write the same text
+    kChangedText, // reads back, but the text written again differs
+    kOrderHead,   // the order's own lines do not read back (503 to 599)
+    kElementLost, // the order reads, the element does not
 };
 
 struct Case {
     Case(const char* caseName, int caseVersion, unsigned caseContent, Outcome caseOutcome)
-        : name(caseName), version(static_cast<uint16_t>(caseVersion)), content(caseContent),
-          outcome(caseOutcome)
+        : name(caseName), version(static_cast<uint16_t>(caseVersion)), content(caseContent), outcome(caseOutcome)
     {
     }
     const char* name;
@@ -75,10 +74,8 @@ Contour LotContour(int16_t version)
 {
     Contour contour(version);
     contour.contourNumber = 1;
-    contour.Add(GeoData(version, L'S',
-                        std::make_unique<LineSegment>(version, Point2d(0, 0), Point2d(3000, 0))));
-    contour.Add(GeoData(version, L'S',
-                        std::make_unique<LineSegment>(version, Point2d(3000, 0), Point2d(3000, 1200))));
+    contour.Add(GeoData(version, L'S', std::make_unique<LineSegment>(version, Point2d(0, 0), Point2d(3000, 0))));
+    contour.Add(GeoData(version, L'S', std::make_unique<LineSegment>(version, Point2d(3000, 0), Point2d(3000, 1200))));
     return contour;
 }
 
@@ -150,8 +147,7 @@ void Build(const Case& c)
         addSteelmat(HostText(u"Q188A"), 2350, 5900, 1, 0, 1, first);
         addSteelmat(HostText(u"Q257A"), 2350, 5900, 0, 1, 2, second);
         const int32_t position[3] = {150, 200, 5};
-        addCFSRodstock(1, HostText(u"B500B"), 2300, 10, 0, position, 40, 90, HostText(u"U1"), 1, 2,
-                       3, 4, 0);
+        addCFSRodstock(1, HostText(u"B500B"), 2300, 10, 0, position, 40, 90, HostText(u"U1"), 1, 2, 3, 4, 0);
     }
     if (c.content & kLooseBars) {
         ItBarBlock bar{};
@@ -168,9 +164,8 @@ void Build(const Case& c)
         bar.auxFirst = 1;
         bar.segmentCount = 7;
         bar.bendingCode = 2;
-        const ItFreeFormSegment segments[7] = {{200, 90, {0, 0}},  {1000, -90, {0, 0}},
-                                               {150, 45, {0, 0}},  {300, 0, {0, 0}},
-                                               {400, -45, {0, 0}}, {500, 135, {0, 0}},
+        const ItFreeFormSegment segments[7] = {{200, 90, {0, 0}},  {1000, -90, {0, 0}}, {150, 45, {0, 0}},
+                                               {300, 0, {0, 0}},   {400, -45, {0, 0}},  {500, 135, {0, 0}},
                                                {250, -180, {0, 0}}};
         addFreeFormRodstock(&bar, segments);
     }

@@ -40,11 +40,9 @@ protected:
     // The five empty records of a fresh element of this version.
     static std::wstring EmptyRecords(const std::wstring& version, const std::wstring& partCount)
     {
-        return L"MOUNPART\n" + version + L"\n" + partCount + L"\nEND\n" +
-               L"RODSTOCK\n" + version + L"\n000\nEND\n" +
-               L"BRGIRDER\n" + version + L"\n000\nEND\n" +
-               L"REFORCEM\n" + version + L"\n" + Blanks(25) + L"0\nEND\nEND REFORCEM\n" +
-               L"EXTIRON_\n" + version + L"\n000\nEND\n";
+        return L"MOUNPART\n" + version + L"\n" + partCount + L"\nEND\n" + L"RODSTOCK\n" + version + L"\n000\nEND\n" +
+               L"BRGIRDER\n" + version + L"\n000\nEND\n" + L"REFORCEM\n" + version + L"\n" + Blanks(25) +
+               L"0\nEND\nEND REFORCEM\n" + L"EXTIRON_\n" + version + L"\n000\nEND\n";
     }
 };
 
@@ -113,55 +111,59 @@ TEST_F(SummaryStringTest, AReinforcedElementAt502)
     const int32_t matPosition[] = {100, 200, 0};
     addSteelmat(HostText(u"MAT01"), 2400, 6000, 1, 0, 65537, matPosition);
     const int32_t barPosition[] = {10, 20, 0};
-    addCFSRodstock(2, HostText(u"D10"), 2300, 10, 0, barPosition, 35, -90, HostText(u"Z"), 1, 0, 0,
-                   0, 0);
+    addCFSRodstock(2, HostText(u"D10"), 2300, 10, 0, barPosition, 35, -90, HostText(u"Z"), 1, 0, 0, 0, 0);
     // A character above U+00FF is kept: nothing narrows the text here.
     addExtIron(2, 10, 1.5, HostText(u"B\u00fcgel \u03a9"));
 
-    const std::wstring expected =
-        L"MOUNPART\n"
-        L"502\n"
-        L"001\n"
-        L"001 000 000 " + Blanks(10) + L" Box" + Blanks(37) + L"\n"
-        L"03.000 007 008 0000 000 02000 01500 01\n"
-        L"S 00000 00000 02000 01500 0000\n"
-        L"END\n"
-        L"RODSTOCK\n"
-        L"502\n"
-        L"001\n"
-        L"001 000 1 B12 03000 012 00000 +00050 +00060 +00025 +000            0\n"
-        L"000 000 000 00000 00000 00000 000\n"
-        L"END\n"
-        L"BRGIRDER\n"
-        L"502\n"
-        L"001\n"
-        L"001 000 00800 KT 800     04500 +00100 +00200 +00030 +090 0\n"
-        L"000 000 005 01.500 07 000 00012 000\n"
-        L"END\n"
-        L"REFORCEM\n"
-        L"502\n" + Blanks(25) + L"1\n"
-        L"END\n"
-        L"STEELMAT\n"
-        L"502\n"
-        L"01 +00100 +00200 +00000 1 0                MAT01 02400 06000 1\n"
-        L"END\n"
-        L"RODSTOCK\n"
-        L"502\n"
-        L"001\n"
-        L"001 000 2 D10 02300 010 00000 +00010 +00020 +00035 -090          Z 1\n"
-        L"000 000 000 00000 00000 00000 000\n"
-        L"END\n"
-        L"BRGIRDER\n"
-        L"502\n"
-        L"000\n"
-        L"END\n"
-        L"END STEELMAT\n"
-        L"END REFORCEM\n"
-        L"EXTIRON_\n"
-        L"502\n"
-        L"001\n"
-        L"001 02 00010 001.500 " + Blanks(23) + L"B\u00fcgel \u03a9\n"
-        L"END\n";
+    const std::wstring expected = L"MOUNPART\n"
+                                  L"502\n"
+                                  L"001\n"
+                                  L"001 000 000 " +
+                                  Blanks(10) + L" Box" + Blanks(37) +
+                                  L"\n"
+                                  L"03.000 007 008 0000 000 02000 01500 01\n"
+                                  L"S 00000 00000 02000 01500 0000\n"
+                                  L"END\n"
+                                  L"RODSTOCK\n"
+                                  L"502\n"
+                                  L"001\n"
+                                  L"001 000 1 B12 03000 012 00000 +00050 +00060 +00025 +000            0\n"
+                                  L"000 000 000 00000 00000 00000 000\n"
+                                  L"END\n"
+                                  L"BRGIRDER\n"
+                                  L"502\n"
+                                  L"001\n"
+                                  L"001 000 00800 KT 800     04500 +00100 +00200 +00030 +090 0\n"
+                                  L"000 000 005 01.500 07 000 00012 000\n"
+                                  L"END\n"
+                                  L"REFORCEM\n"
+                                  L"502\n" +
+                                  Blanks(25) +
+                                  L"1\n"
+                                  L"END\n"
+                                  L"STEELMAT\n"
+                                  L"502\n"
+                                  L"01 +00100 +00200 +00000 1 0                MAT01 02400 06000 1\n"
+                                  L"END\n"
+                                  L"RODSTOCK\n"
+                                  L"502\n"
+                                  L"001\n"
+                                  L"001 000 2 D10 02300 010 00000 +00010 +00020 +00035 -090          Z 1\n"
+                                  L"000 000 000 00000 00000 00000 000\n"
+                                  L"END\n"
+                                  L"BRGIRDER\n"
+                                  L"502\n"
+                                  L"000\n"
+                                  L"END\n"
+                                  L"END STEELMAT\n"
+                                  L"END REFORCEM\n"
+                                  L"EXTIRON_\n"
+                                  L"502\n"
+                                  L"001\n"
+                                  L"001 02 00010 001.500 " +
+                                  Blanks(23) +
+                                  L"B\u00fcgel \u03a9\n"
+                                  L"END\n";
     EXPECT_EQ(Summary(), expected);
 }
 

@@ -81,15 +81,16 @@ std::pair<std::string, bool> WrittenThrough(std::size_t areaSize, const std::vec
 
 // Areas smaller than a line, around every boundary of these lines, and
 // larger than the whole file.
-const std::size_t areaSizes[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 17,
-                                 DocumentFileBuffer::defaultAreaSize, 1 << 20};
+const std::size_t areaSizes[] = {
+    1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 17, DocumentFileBuffer::defaultAreaSize, 1 << 20};
 
 TEST(DocumentFileBuffer, TheSameBytesThroughAreasOfAnySize)
 {
     for (std::size_t areaSize : areaSizes) {
         SCOPED_TRACE(areaSize);
         const auto [bytes, healthy] = WrittenThrough(areaSize, {L"HEADER__", L"0012 A\u00E9B", L"", L"END"});
-        EXPECT_EQ(bytes, std::string("HEADER__\r\n0012 A\xE9" "B\r\n\r\nEND\r\n"));
+        EXPECT_EQ(bytes, std::string("HEADER__\r\n0012 A\xE9"
+                                     "B\r\n\r\nEND\r\n"));
         EXPECT_TRUE(healthy);
     }
 }
@@ -194,13 +195,12 @@ TEST(Archive, IgnoresACommaDecimalGlobalLocale)
 {
     auto writeNumbers = []() {
         Testing::StringArchive s;
-        s.archive << Real(4, 3, 1234.5) << Blank << UInt(7, 1234567) << Blank << SInt(6, -1234567)
-                  << Blank << Real(2, 1, -0.25);
+        s.archive << Real(4, 3, 1234.5) << Blank << UInt(7, 1234567) << Blank << SInt(6, -1234567) << Blank
+                  << Real(2, 1, -0.25);
         return s.Text();
     };
     const std::wstring before = writeNumbers();
-    const std::locale previous =
-        std::locale::global(std::locale(std::locale::classic(), new CommaDecimalPoint));
+    const std::locale previous = std::locale::global(std::locale(std::locale::classic(), new CommaDecimalPoint));
     const std::wstring during = writeNumbers();
     double read = 0;
     Testing::StringArchive in(L"12.5");

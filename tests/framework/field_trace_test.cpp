@@ -46,8 +46,8 @@ class Collector : public FieldSink {
 public:
     void Report(const FieldEvent& event) override
     {
-        told.push_back(Told{event.problem, event.tag, event.record, event.member, event.line, event.column,
-                            event.width, event.value, event.written});
+        told.push_back(Told{event.problem, event.tag, event.record, event.member, event.line, event.column, event.width,
+                            event.value, event.written});
     }
     void RecordStarts(const void* record, std::size_t line, std::size_t column) override
     {
@@ -105,8 +105,8 @@ TEST(FieldSink, ANumberWiderThanItsFieldIsToldAsWritten)
     StringArchive s;
     Collector sink;
     s.archive.SetFieldSink(&sink);
-    s.archive << UInt(3, 999, "fits") << Blank << UInt(3, 1000, "wide") << Blank << SInt(5, -123456, "signed")
-              << Blank << SInt(5, 99999, "signedFits") << Blank << UInt(5, -42, "negativeFits") << Blank
+    s.archive << UInt(3, 999, "fits") << Blank << UInt(3, 1000, "wide") << Blank << SInt(5, -123456, "signed") << Blank
+              << SInt(5, 99999, "signedFits") << Blank << UInt(5, -42, "negativeFits") << Blank
               << Real(2, 3, 123.4567, "real");
 
     EXPECT_EQ(s.Text(), L"999 1000 -123456 +99999 00-42 123.457");

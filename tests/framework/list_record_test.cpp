@@ -58,7 +58,12 @@ TEST(ReadList, ReadsWhatWriteListWrote)
     StringArchive s(L"LISTTAG_\n601\n002\n07\n42\nEND\n");
     std::int16_t version = 0;
     std::vector<Entry> entries;
-    EXPECT_TRUE(ReadList(s.archive, L"LISTTAG_", version, [&] { return Entry{version, 0}; }, entries));
+    EXPECT_TRUE(ReadList(
+        s.archive, L"LISTTAG_", version,
+        [&] {
+            return Entry{version, 0};
+        },
+        entries));
     EXPECT_EQ(version, 601);
     ASSERT_EQ(entries.size(), 2u);
     EXPECT_EQ(entries[0].version, 601);
@@ -71,7 +76,8 @@ TEST(ReadList, AnotherTagReadsNothingAndSpoilsTheArchive)
     StringArchive s(L"OTHERTAG\n601\n000\nEND\n");
     std::int16_t version = 0;
     std::vector<Entry> entries;
-    EXPECT_FALSE(ReadList(s.archive, L"LISTTAG_", version, [] { return Entry{}; }, entries));
+    EXPECT_FALSE(ReadList(
+        s.archive, L"LISTTAG_", version, [] { return Entry{}; }, entries));
     EXPECT_EQ(version, 0);
     EXPECT_FALSE(s.archive.valid);
 }
@@ -83,7 +89,8 @@ TEST(ReadList, AWrongEndSpoilsTheArchiveOrOnlyTheList)
         StringArchive s(text);
         std::int16_t version = 0;
         std::vector<Entry> entries;
-        EXPECT_FALSE(ReadList(s.archive, L"LISTTAG_", version, [] { return Entry{}; }, entries));
+        EXPECT_FALSE(ReadList(
+            s.archive, L"LISTTAG_", version, [] { return Entry{}; }, entries));
         EXPECT_FALSE(s.archive.valid);
         EXPECT_EQ(entries.size(), 1u);
     }
@@ -91,8 +98,8 @@ TEST(ReadList, AWrongEndSpoilsTheArchiveOrOnlyTheList)
         StringArchive s(text);
         std::int16_t version = 0;
         std::vector<Entry> entries;
-        EXPECT_FALSE(ReadList(s.archive, L"LISTTAG_", version, [] { return Entry{}; }, entries,
-                              WrongEnd::failsList));
+        EXPECT_FALSE(ReadList(
+            s.archive, L"LISTTAG_", version, [] { return Entry{}; }, entries, WrongEnd::failsList));
         EXPECT_TRUE(s.archive.valid);
         EXPECT_EQ(entries.size(), 1u);
     }
@@ -103,7 +110,8 @@ TEST(ReadList, EntriesThatDoNotReadAreNotKept)
     StringArchive s(L"LISTTAG_\n600\n003\n07\nxx\n");
     std::int16_t version = 0;
     std::vector<Entry> entries;
-    EXPECT_FALSE(ReadList(s.archive, L"LISTTAG_", version, [] { return Entry{}; }, entries));
+    EXPECT_FALSE(ReadList(
+        s.archive, L"LISTTAG_", version, [] { return Entry{}; }, entries));
     ASSERT_EQ(entries.size(), 1u);
     EXPECT_EQ(entries[0].value, 7u);
 }

@@ -102,7 +102,6 @@ int main(int argc, char** argv)
             ++failures;
         }
     }
-    std::cerr << expected.size() << " golden files checked, "
-              << failures << " differences\n";
+    std::cerr << expected.size() << " golden files checked, " << failures << " differences\n";
     return failures == 0 ? 0 : 1;
 }

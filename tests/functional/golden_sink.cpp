@@ -68,8 +68,8 @@ int32_t __wrap_endDocument(const it_char16* path)
 int main(int argc, char** argv)
 {
     const int result = scenario_main(argc, argv);
-    std::cerr << documents << " documents written with a field sink, " << events << " fields told, "
-              << differences << " differences\n";
+    std::cerr << documents << " documents written with a field sink, " << events << " fields told, " << differences
+              << " differences\n";
     if (result != 0) {
         return result;
     }

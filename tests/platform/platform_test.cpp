@@ -76,7 +76,8 @@ TEST(ToUtf8, SurrogatePairIsOneCharacterOfFourBytes)
 
 TEST(ToUtf8, LoneSurrogateBecomesReplacementCharacter)
 {
-    EXPECT_EQ(ToUtf8(Units({'a', 0xD800, 'b'})), std::string("a\xEF\xBF\xBD" "b"));
+    EXPECT_EQ(ToUtf8(Units({'a', 0xD800, 'b'})), std::string("a\xEF\xBF\xBD"
+                                                             "b"));
     EXPECT_EQ(ToUtf8(Units({0xDC00})), std::string("\xEF\xBF\xBD"));
 }
 

@@ -67,8 +67,8 @@ protected:
         const std::wstring text = Written(theDocument.orders);
         EXPECT_FALSE(RecordsReadBack(text, theDocument.orders.size())) << DepartureName(departure);
         const TolerantDocument document = ReadTolerantlyText(text);
-        ASSERT_TRUE(document.Complete()) << DepartureName(departure) << ": line " << document.stop->line
-                                         << ", column " << document.stop->column << ": " << document.stop->expected;
+        ASSERT_TRUE(document.Complete()) << DepartureName(departure) << ": line " << document.stop->line << ", column "
+                                         << document.stop->column << ": " << document.stop->expected;
         std::vector<Order> orders = document.orders;
         EXPECT_EQ(Written(orders), text) << DepartureName(departure);
         EXPECT_EQ(document.departures.count(departure), 1u) << DepartureName(departure);

@@ -160,16 +160,16 @@ void Reinforcement(Generator& g)
 {
     for (int n = g.Between(0, 2); n > 0; --n) {
         const int32_t position[3] = {g.Coordinate(), g.Coordinate(), g.Between(-999, 999)};
-        addSteelmat(g.Host(g.Text(25)), g.Between(0, 99999), g.Between(-999, 99999), g.Between(0, 2),
-                    g.Between(0, 2), g.Between(-70000, 70000), position);
+        addSteelmat(g.Host(g.Text(25)), g.Between(0, 99999), g.Between(-999, 99999), g.Between(0, 2), g.Between(0, 2),
+                    g.Between(-70000, 70000), position);
         for (int bars = g.Between(0, 3); bars > 0; --bars) {
             static const int codes[] = {0, 1, 10, 11, 20, 100, 110, 120, 200, 999};
             // The third number is the bar's sixth value: the export reads three.
             const int32_t at[3] = {g.Coordinate(), g.Coordinate(), 0};
             addCFSRodstock(g.Between(0, 12), g.Host(g.Text(12)), g.Between(0, 99999), g.Between(0, 999),
-                           g.Between(-999, 99999), at, g.Between(-999, 999), g.Between(-999, 999),
-                           g.Host(g.Text(12)), g.Between(0, 1), g.Between(0, 999), g.Between(0, 99999),
-                           g.Between(-999, 99999), codes[g.Between(0, 9)]);
+                           g.Between(-999, 99999), at, g.Between(-999, 999), g.Between(-999, 999), g.Host(g.Text(12)),
+                           g.Between(0, 1), g.Between(0, 999), g.Between(0, 99999), g.Between(-999, 99999),
+                           codes[g.Between(0, 9)]);
         }
     }
     for (int n = g.Between(0, 2); n > 0; --n) {
@@ -196,8 +196,8 @@ void Build(Generator& g, int index)
     for (int orders = g.Between(1, 3); orders > 0; --orders) {
         const double placement[9] = {g.Real(), g.Real(), g.Real(), g.Real(), g.Real(),
                                      g.Real(), g.Real(), g.Real(), g.Real()};
-        startOrder(static_cast<uint16_t>(g.Between(0, 65535)), g.Between(-100000, 100000), placement,
-                   Version(g, index), g.Host(g.Text(35)), g.Real(), orders == 1 ? 1 : 0);
+        startOrder(static_cast<uint16_t>(g.Between(0, 65535)), g.Between(-100000, 100000), placement, Version(g, index),
+                   g.Host(g.Text(35)), g.Real(), orders == 1 ? 1 : 0);
         ProjectData(g);
         setSlabInfoFields(g.Host(g.Text(22)), g.Host(g.Text(22)), g.Host(g.Text(22)), g.Host(g.Text(22)));
         setThicknesses(g.Between(-999, 99999), g.Between(-999, 99999));

@@ -674,9 +674,7 @@ TEST(CopiesAndMoves, Contour)
         [](Contour& c) { c.Add(Piece(600, 1, 2, 3, 4)); },
         [](const Contour& c) { return std::vector<std::size_t>{c.geoData.size()}; },
     };
-    kind.expectSameUnwritten = [](Contour& result, Contour& original) {
-        EXPECT_EQ(result.version, original.version);
-    };
+    kind.expectSameUnwritten = [](Contour& result, Contour& original) { EXPECT_EQ(result.version, original.version); };
     ExpectCopiesAndMovesOfItsOwn(kind);
 }
 
@@ -765,7 +763,9 @@ TEST(CopiesAndMoves, Layer)
             l.Add(FilledLot(3));
             l.Add(FilledPart(3));
         },
-        [](const Layer& l) { return std::vector<std::size_t>{l.lots.size(), l.mountingPartData.parts.size()}; },
+        [](const Layer& l) {
+            return std::vector<std::size_t>{l.lots.size(), l.mountingPartData.parts.size()};
+        },
     });
 }
 
@@ -913,11 +913,11 @@ TEST(CopiesAndMoves, Polygon)
             p.PointCollection::Add(Point2d(7, 7));
             p.FlagCollection::Add(3);
         },
-        [](const Polygon& p) { return std::vector<std::size_t>{p.points.size(), p.segmentFlags.size()}; },
+        [](const Polygon& p) {
+            return std::vector<std::size_t>{p.points.size(), p.segmentFlags.size()};
+        },
     };
-    kind.expectSameUnwritten = [](Polygon& result, Polygon& original) {
-        EXPECT_EQ(result.version, original.version);
-    };
+    kind.expectSameUnwritten = [](Polygon& result, Polygon& original) { EXPECT_EQ(result.version, original.version); };
     ExpectCopiesAndMovesOfItsOwn(kind);
 }
 

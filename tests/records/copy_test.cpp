@@ -256,20 +256,26 @@ void ExpectOwnCollections(Order& o, Order& c)
 
 void ExpectOwnCollections(ElementPart& o, ElementPart& c)
 {
-    ExpectOwnCollection<Over<ConcreteLayer>>(o, c, ConcreteLayer(502), [](ElementPart& r) { return r.concreteLayers.size(); });
-    ExpectOwnCollection<Over<Contour>>(o, c, Contour(502), [](ElementPart& r) { return r.contourData.contours.size(); });
+    ExpectOwnCollection<Over<ConcreteLayer>>(o, c, ConcreteLayer(502),
+                                             [](ElementPart& r) { return r.concreteLayers.size(); });
+    ExpectOwnCollection<Over<Contour>>(o, c, Contour(502),
+                                       [](ElementPart& r) { return r.contourData.contours.size(); });
     ExpectOwnCollection<Over<Cutout>>(o, c, Cutout(502), [](ElementPart& r) { return r.cutoutData.cutouts.size(); });
-    ExpectOwnCollection<Over<MountingPart>>(o, c, MountingPart(502), [](ElementPart& r) { return r.mountingPartData.parts.size(); });
+    ExpectOwnCollection<Over<MountingPart>>(o, c, MountingPart(502),
+                                            [](ElementPart& r) { return r.mountingPartData.parts.size(); });
     ExpectOwnCollection<Over<Rodstock>>(o, c, Rodstock(502), [](ElementPart& r) { return r.rodstockData.bars.size(); });
-    ExpectOwnCollection<Over<BracedGirder>>(o, c, BracedGirder(), [](ElementPart& r) { return r.bracedGirderData.girders.size(); });
-    ExpectOwnCollection<Over<ExternalIron>>(o, c, ExternalIron(), [](ElementPart& r) { return r.externalIronData.irons.size(); });
+    ExpectOwnCollection<Over<BracedGirder>>(o, c, BracedGirder(),
+                                            [](ElementPart& r) { return r.bracedGirderData.girders.size(); });
+    ExpectOwnCollection<Over<ExternalIron>>(o, c, ExternalIron(),
+                                            [](ElementPart& r) { return r.externalIronData.irons.size(); });
     ExpectOwnCollection<Over<Layer>>(o, c, Layer(), [](ElementPart& r) { return r.layers.size(); });
 }
 
 void ExpectOwnCollections(Layer& o, Layer& c)
 {
     ExpectOwnCollection<Over<Lot>>(o, c, Lot(), [](Layer& r) { return r.lots.size(); });
-    ExpectOwnCollection<Over<MountingPart>>(o, c, MountingPart(502), [](Layer& r) { return r.mountingPartData.parts.size(); });
+    ExpectOwnCollection<Over<MountingPart>>(o, c, MountingPart(502),
+                                            [](Layer& r) { return r.mountingPartData.parts.size(); });
 }
 
 void ExpectOwnCollections(Lot& o, Lot& c)
@@ -305,7 +311,8 @@ void ExpectOwnCollections(CutoutData& o, CutoutData& c)
 
 void ExpectOwnCollections(MountingPartData& o, MountingPartData& c)
 {
-    ExpectOwnCollection<Over<MountingPart>>(o, c, MountingPart(502), [](MountingPartData& r) { return r.parts.size(); });
+    ExpectOwnCollection<Over<MountingPart>>(o, c, MountingPart(502),
+                                            [](MountingPartData& r) { return r.parts.size(); });
 }
 
 void ExpectOwnCollections(RodstockData& o, RodstockData& c)
@@ -330,20 +337,26 @@ void ExpectOwnCollections(Reinforcement& o, Reinforcement& c)
 
 void ExpectOwnCollections(Steelmat& o, Steelmat& c)
 {
-    ExpectOwnCollection<ItCollectionImpl<RodstockData>>(o, c, Rodstock(502), [](Steelmat& r) { return r.rodstocks.bars.size(); });
-    ExpectOwnCollection<ItCollectionImpl<BracedGirderData>>(o, c, BracedGirder(), [](Steelmat& r) { return r.girders.girders.size(); });
+    ExpectOwnCollection<ItCollectionImpl<RodstockData>>(o, c, Rodstock(502),
+                                                        [](Steelmat& r) { return r.rodstocks.bars.size(); });
+    ExpectOwnCollection<ItCollectionImpl<BracedGirderData>>(o, c, BracedGirder(),
+                                                            [](Steelmat& r) { return r.girders.girders.size(); });
 }
 
 void ExpectOwnCollections(Rodstock& o, Rodstock& c)
 {
-    ExpectOwnCollection<ItCollectionImpl<SpacerData>>(o, c, SpacerPosition(), [](Rodstock& r) { return r.spacers.positions.size(); });
-    ExpectOwnCollection<ItCollectionImpl<WeldingPointData>>(o, c, WeldingPoint(), [](Rodstock& r) { return r.weldingPoints.points.size(); });
+    ExpectOwnCollection<ItCollectionImpl<SpacerData>>(o, c, SpacerPosition(),
+                                                      [](Rodstock& r) { return r.spacers.positions.size(); });
+    ExpectOwnCollection<ItCollectionImpl<WeldingPointData>>(o, c, WeldingPoint(),
+                                                            [](Rodstock& r) { return r.weldingPoints.points.size(); });
 }
 
 void ExpectOwnCollections(BracedGirder& o, BracedGirder& c)
 {
-    ExpectOwnCollection<ItCollectionImpl<WeldingPointData>>(o, c, WeldingPoint(), [](BracedGirder& r) { return r.weldingPoints.points.size(); });
-    ExpectOwnCollection<ItCollectionImpl<AnchorBarData>>(o, c, AnchorBar(), [](BracedGirder& r) { return r.anchorBars.bars.size(); });
+    ExpectOwnCollection<ItCollectionImpl<WeldingPointData>>(
+        o, c, WeldingPoint(), [](BracedGirder& r) { return r.weldingPoints.points.size(); });
+    ExpectOwnCollection<ItCollectionImpl<AnchorBarData>>(o, c, AnchorBar(),
+                                                         [](BracedGirder& r) { return r.anchorBars.bars.size(); });
 }
 
 void ExpectOwnCollections(AnchorBarData& o, AnchorBarData& c)
@@ -363,12 +376,14 @@ void ExpectOwnCollections(SpacerData& o, SpacerData& c)
 
 void ExpectOwnCollections(BendingFormFree& o, BendingFormFree& c)
 {
-    ExpectOwnCollection<Over<BendingFormPart>>(o, c, BendingFormPart(), [](BendingFormFree& r) { return r.parts.size(); });
+    ExpectOwnCollection<Over<BendingFormPart>>(o, c, BendingFormPart(),
+                                               [](BendingFormFree& r) { return r.parts.size(); });
 }
 
 void ExpectOwnCollections(BendingFormPart& o, BendingFormPart& c)
 {
-    ExpectOwnCollection<Over<BendingFormSegment>>(o, c, BendingFormSegment(), [](BendingFormPart& r) { return r.segments.size(); });
+    ExpectOwnCollection<Over<BendingFormSegment>>(o, c, BendingFormSegment(),
+                                                  [](BendingFormPart& r) { return r.segments.size(); });
 }
 
 void ExpectOwnCollections(Polygon& o, Polygon& c)
@@ -390,15 +405,16 @@ void Settle(Order& order)
 }
 
 template <class R>
-class RecordCopy : public ::testing::Test {};
+class RecordCopy : public ::testing::Test {
+};
 
-using Records = ::testing::Types<Order, Project, Address, Date, Lot, ElementPart, Layer, ConcreteLayer, Plaster,
-                                 Contour, ContourData, Cutout, CutoutData, MountingPart, MountingPartData,
-                                 Reinforcement, Steelmat, Rodstock, RodstockData, BracedGirder, BracedGirderData,
-                                 ExternalIron, ExternalIronData, BendingForm, BendingFormFree, BendingFormPart,
-                                 BendingFormSegment, AnchorBar, AnchorBarData, WeldingIntersection, WeldingPoint,
-                                 WeldingPointData, SpacerPosition, SpacerData, GeoData, LineSegment, Circle, Arc,
-                                 Polygon, Point2d, Vector2d, Point3d, Vector3d, Edge>;
+using Records =
+    ::testing::Types<Order, Project, Address, Date, Lot, ElementPart, Layer, ConcreteLayer, Plaster, Contour,
+                     ContourData, Cutout, CutoutData, MountingPart, MountingPartData, Reinforcement, Steelmat, Rodstock,
+                     RodstockData, BracedGirder, BracedGirderData, ExternalIron, ExternalIronData, BendingForm,
+                     BendingFormFree, BendingFormPart, BendingFormSegment, AnchorBar, AnchorBarData,
+                     WeldingIntersection, WeldingPoint, WeldingPointData, SpacerPosition, SpacerData, GeoData,
+                     LineSegment, Circle, Arc, Polygon, Point2d, Vector2d, Point3d, Vector3d, Edge>;
 
 class RecordName {
 public:

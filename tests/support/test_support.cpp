@@ -105,13 +105,12 @@ std::string DescribeDifference(const std::string& expected, const std::string& a
         }
         ++index;
     }
-    std::string out = "first difference at line " + std::to_string(line) + ", column "
-                      + std::to_string(index - lineStart + 1) + " (byte " + std::to_string(index)
-                      + ")\n";
+    std::string out = "first difference at line " + std::to_string(line) + ", column " +
+                      std::to_string(index - lineStart + 1) + " (byte " + std::to_string(index) + ")\n";
     out += "  expected: \"" + Visible(LineAt(expected, lineStart)) + "\"\n";
     out += "  actual:   \"" + Visible(LineAt(actual, lineStart)) + "\"\n";
-    out += "  sizes: expected " + std::to_string(expected.size()) + " bytes, actual "
-           + std::to_string(actual.size()) + " bytes\n";
+    out += "  sizes: expected " + std::to_string(expected.size()) + " bytes, actual " + std::to_string(actual.size()) +
+           " bytes\n";
     return out;
 }
 

@@ -64,7 +64,8 @@ TEST(BuildCommandLine, AnUnknownOptionIsABadCommandLine)
     WriteFileBytes(directory.File("s.json"), Script({kStartOrder600, kEnd}));
     const ToolResult run = RunTool({"build", "s.json", "--out", "x.txt"}, directory.Path());
     EXPECT_EQ(run.exitCode, 2);
-    EXPECT_EQ(run.err, "The following arguments were not expected: x.txt --out\nRun with --help for more information.\n");
+    EXPECT_EQ(run.err,
+              "The following arguments were not expected: x.txt --out\nRun with --help for more information.\n");
     EXPECT_EQ(FilesBelow(directory.Path()), std::vector<std::string>{"s.json"});
 }
 
@@ -90,9 +91,9 @@ TEST(BuildCommandLine, AnEmptyOutputNameIsABadCommandLine)
 TEST(BuildReport, NamesEachFileWrittenAndShowsTheSummaryOfTheLastElement)
 {
     TemporaryDirectory directory;
-    const ToolResult run = BuildScript(
-        directory.Path(), Script({kStartOrder600, R"({"call": "endDocument", "path": "a.txt"})",
-                                  R"({"call": "endDocument", "path": "b.txt"})"}));
+    const ToolResult run =
+        BuildScript(directory.Path(), Script({kStartOrder600, R"({"call": "endDocument", "path": "a.txt"})",
+                                              R"({"call": "endDocument", "path": "b.txt"})"}));
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_EQ(run.err, "");
     EXPECT_EQ(run.out, "wrote a.txt\nwrote b.txt\n" + FreshSummary());
@@ -121,11 +122,10 @@ TEST(BuildReport, AScriptWithoutEndDocumentWritesNothing)
 TEST(BuildOutput, SendsTheLastEndDocumentElsewhere)
 {
     TemporaryDirectory directory;
-    const ToolResult run = BuildScript(
-        directory.Path(),
-        Script({kStartOrder600, R"({"call": "endDocument", "path": "a.txt"})",
-                R"({"call": "endDocument", "path": "b.txt"})"}),
-        {"-o", "c.txt"});
+    const ToolResult run = BuildScript(directory.Path(),
+                                       Script({kStartOrder600, R"({"call": "endDocument", "path": "a.txt"})",
+                                               R"({"call": "endDocument", "path": "b.txt"})"}),
+                                       {"-o", "c.txt"});
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_EQ(run.out, "wrote a.txt\nwrote c.txt\n" + FreshSummary());
     EXPECT_EQ(FilesBelow(directory.Path()), (std::vector<std::string>{"a.txt", "c.txt", "s.json"}));
@@ -135,7 +135,8 @@ TEST(BuildOutput, SendsTheLastEndDocumentElsewhere)
 TEST(BuildOutput, AddsAnEndDocumentWhenTheScriptHasNone)
 {
     TemporaryDirectory directory;
-    const ToolResult run = BuildScript(directory.Path(), Script({kStartOrder600}), {"--output", "c.txt", "--trace", "-"});
+    const ToolResult run =
+        BuildScript(directory.Path(), Script({kStartOrder600}), {"--output", "c.txt", "--trace", "-"});
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_EQ(run.out, "{\"index\":0,\"call\":\"startOrder\",\"result\":1}\n"
                        "{\"index\":1,\"call\":\"endDocument\",\"result\":1}\n");
@@ -180,8 +181,12 @@ TEST(BuildOutput, FileNamesBeyondAsciiAreUtf8)
     const ToolResult run = BuildScript(
         directory.Path(), Script({kStartOrder600, R"({"call": "endDocument", "path": "Gr\u00f6\u00dfe \u03a9.txt"})"}));
     EXPECT_EQ(run.exitCode, 0) << run.err;
-    EXPECT_EQ(run.out, "wrote Gr\xC3\xB6\xC3\x9F" "e \xCE\xA9.txt\n" + FreshSummary());
-    EXPECT_EQ(ReadFileBytes(directory.File("Gr\xC3\xB6\xC3\x9F" "e \xCE\xA9.txt")), V600());
+    EXPECT_EQ(run.out, "wrote Gr\xC3\xB6\xC3\x9F"
+                       "e \xCE\xA9.txt\n" +
+                           FreshSummary());
+    EXPECT_EQ(ReadFileBytes(directory.File("Gr\xC3\xB6\xC3\x9F"
+                                           "e \xCE\xA9.txt")),
+              V600());
 }
 
 TEST(BuildFiles, AScriptThatCannotBeReadGivesThree)
@@ -209,10 +214,9 @@ TEST(BuildFiles, ADocumentThatCannotBeWrittenGivesThreeAndStopsTheScript)
     EXPECT_EQ(run.exitCode, 3);
     EXPECT_EQ(run.err, ToolError("s.json: call 2 (endDocument): cannot write \"missing/b.txt\""));
     EXPECT_EQ(FilesBelow(directory.Path()), (std::vector<std::string>{"a.txt", "s.json", "trace.jsonl"}));
-    EXPECT_EQ(ReadFileBytes(directory.File("trace.jsonl")),
-              "{\"index\":0,\"call\":\"startOrder\",\"result\":1}\n"
-              "{\"index\":1,\"call\":\"endDocument\",\"result\":1}\n"
-              "{\"index\":2,\"call\":\"endDocument\",\"result\":1}\n");
+    EXPECT_EQ(ReadFileBytes(directory.File("trace.jsonl")), "{\"index\":0,\"call\":\"startOrder\",\"result\":1}\n"
+                                                            "{\"index\":1,\"call\":\"endDocument\",\"result\":1}\n"
+                                                            "{\"index\":2,\"call\":\"endDocument\",\"result\":1}\n");
 }
 
 TEST(BuildFiles, AFolderInThePlaceOfTheDocumentGivesThree)
@@ -247,45 +251,59 @@ TEST(BuildTrace, IsOneLinePerCallWithItsResultOrText)
     TemporaryDirectory directory;
     const ToolResult run = BuildScript(
         directory.Path(),
-        Script({R"({"call": "getFullReinforcementString"})", kStartOrder600, R"({"call": "getFullReinforcementString"})",
-                R"({"call": "setProjectData", "texts": ["", "", "", "", "", "", "", "", "", "", "", "", "", "", "", "", )"
-                R"("21.11.2026"]})",
-                R"({"call": "setSlabInfoFields"})", R"({"call": "setThicknesses"})", R"({"call": "setDoubleWallGap"})",
-                R"({"call": "addLayer"})", R"({"call": "addContour"})", R"({"call": "addCutout"})",
-                R"({"call": "addSet", "setKind": 3})", R"({"call": "addSet", "setKind": 4})",
-                R"({"call": "addSet", "setKind": 5})", R"({"call": "addCFSRodstock"})", R"({"call": "addSteelmat"})",
-                R"({"call": "addSteelmat"})", R"({"call": "addCFSRodstock"})", R"({"call": "addCFSRodstock"})",
-                R"({"call": "addStraightRodstock"})", R"({"call": "addFreeFormRodstock"})",
-                R"({"call": "addExtIron"})", R"({"call": "addExtIron"})", kEnd}),
+        Script(
+            {R"({"call": "getFullReinforcementString"})",
+             kStartOrder600,
+             R"({"call": "getFullReinforcementString"})",
+             R"({"call": "setProjectData", "texts": ["", "", "", "", "", "", "", "", "", "", "", "", "", "", "", "", )"
+             R"("21.11.2026"]})",
+             R"({"call": "setSlabInfoFields"})",
+             R"({"call": "setThicknesses"})",
+             R"({"call": "setDoubleWallGap"})",
+             R"({"call": "addLayer"})",
+             R"({"call": "addContour"})",
+             R"({"call": "addCutout"})",
+             R"({"call": "addSet", "setKind": 3})",
+             R"({"call": "addSet", "setKind": 4})",
+             R"({"call": "addSet", "setKind": 5})",
+             R"({"call": "addCFSRodstock"})",
+             R"({"call": "addSteelmat"})",
+             R"({"call": "addSteelmat"})",
+             R"({"call": "addCFSRodstock"})",
+             R"({"call": "addCFSRodstock"})",
+             R"({"call": "addStraightRodstock"})",
+             R"({"call": "addFreeFormRodstock"})",
+             R"({"call": "addExtIron"})",
+             R"({"call": "addExtIron"})",
+             kEnd}),
         {"--trace", "trace.jsonl"});
     EXPECT_EQ(run.exitCode, 0) << run.err;
     EXPECT_EQ(run.out, "");
-    const std::string expected =
-        "{\"index\":0,\"call\":\"getFullReinforcementString\",\"text\":\"\"}\n"
-        "{\"index\":1,\"call\":\"startOrder\",\"result\":1}\n"
-        "{\"index\":2,\"call\":\"getFullReinforcementString\",\"text\":"
-        + JsonText(FreshSummary())
-        + "}\n"
-          "{\"index\":3,\"call\":\"setProjectData\"}\n"
-          "{\"index\":4,\"call\":\"setSlabInfoFields\"}\n"
-          "{\"index\":5,\"call\":\"setThicknesses\"}\n"
-          "{\"index\":6,\"call\":\"setDoubleWallGap\"}\n"
-          "{\"index\":7,\"call\":\"addLayer\"}\n"
-          "{\"index\":8,\"call\":\"addContour\"}\n"
-          "{\"index\":9,\"call\":\"addCutout\"}\n"
-          "{\"index\":10,\"call\":\"addSet\",\"result\":1}\n"
-          "{\"index\":11,\"call\":\"addSet\",\"result\":0}\n"
-          "{\"index\":12,\"call\":\"addSet\",\"result\":1}\n"
-          "{\"index\":13,\"call\":\"addCFSRodstock\",\"result\":-1}\n"
-          "{\"index\":14,\"call\":\"addSteelmat\",\"result\":1}\n"
-          "{\"index\":15,\"call\":\"addSteelmat\",\"result\":2}\n"
-          "{\"index\":16,\"call\":\"addCFSRodstock\",\"result\":1}\n"
-          "{\"index\":17,\"call\":\"addCFSRodstock\",\"result\":2}\n"
-          "{\"index\":18,\"call\":\"addStraightRodstock\"}\n"
-          "{\"index\":19,\"call\":\"addFreeFormRodstock\"}\n"
-          "{\"index\":20,\"call\":\"addExtIron\",\"result\":1}\n"
-          "{\"index\":21,\"call\":\"addExtIron\",\"result\":2}\n"
-          "{\"index\":22,\"call\":\"endDocument\",\"result\":1}\n";
+    const std::string expected = "{\"index\":0,\"call\":\"getFullReinforcementString\",\"text\":\"\"}\n"
+                                 "{\"index\":1,\"call\":\"startOrder\",\"result\":1}\n"
+                                 "{\"index\":2,\"call\":\"getFullReinforcementString\",\"text\":" +
+                                 JsonText(FreshSummary()) +
+                                 "}\n"
+                                 "{\"index\":3,\"call\":\"setProjectData\"}\n"
+                                 "{\"index\":4,\"call\":\"setSlabInfoFields\"}\n"
+                                 "{\"index\":5,\"call\":\"setThicknesses\"}\n"
+                                 "{\"index\":6,\"call\":\"setDoubleWallGap\"}\n"
+                                 "{\"index\":7,\"call\":\"addLayer\"}\n"
+                                 "{\"index\":8,\"call\":\"addContour\"}\n"
+                                 "{\"index\":9,\"call\":\"addCutout\"}\n"
+                                 "{\"index\":10,\"call\":\"addSet\",\"result\":1}\n"
+                                 "{\"index\":11,\"call\":\"addSet\",\"result\":0}\n"
+                                 "{\"index\":12,\"call\":\"addSet\",\"result\":1}\n"
+                                 "{\"index\":13,\"call\":\"addCFSRodstock\",\"result\":-1}\n"
+                                 "{\"index\":14,\"call\":\"addSteelmat\",\"result\":1}\n"
+                                 "{\"index\":15,\"call\":\"addSteelmat\",\"result\":2}\n"
+                                 "{\"index\":16,\"call\":\"addCFSRodstock\",\"result\":1}\n"
+                                 "{\"index\":17,\"call\":\"addCFSRodstock\",\"result\":2}\n"
+                                 "{\"index\":18,\"call\":\"addStraightRodstock\"}\n"
+                                 "{\"index\":19,\"call\":\"addFreeFormRodstock\"}\n"
+                                 "{\"index\":20,\"call\":\"addExtIron\",\"result\":1}\n"
+                                 "{\"index\":21,\"call\":\"addExtIron\",\"result\":2}\n"
+                                 "{\"index\":22,\"call\":\"endDocument\",\"result\":1}\n";
     EXPECT_EQ(ReadFileBytes(directory.File("trace.jsonl")), expected);
 }
 
@@ -308,7 +326,8 @@ TEST(BuildTrace, KeepsTextsBeyondAsciiAsUtf8)
                 R"({"call": "getFullReinforcementString"})"}),
         {"--trace", "-"});
     EXPECT_EQ(run.exitCode, 0);
-    const std::string iron = "EXTIRON_\\n600\\n001\\n001 01 00001 000.000" + std::string(28, ' ') + "\xCE\xA9 7\\nEND\\n";
+    const std::string iron =
+        "EXTIRON_\\n600\\n001\\n001 01 00001 000.000" + std::string(28, ' ') + "\xCE\xA9 7\\nEND\\n";
     EXPECT_NE(run.out.find(iron), std::string::npos) << run.out;
 }
 

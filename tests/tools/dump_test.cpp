@@ -105,7 +105,7 @@ TEST(Dump, AFileThatIsNotThereExitsThree)
     TemporaryDirectory directory;
     const ToolResult run = RunTool({"dump", "missing.uni"}, directory.Path());
     EXPECT_EQ(run.exitCode, 3);
-    EXPECT_EQ(run.err, ToolError("cannot read \"missing.uni\"") );
+    EXPECT_EQ(run.err, ToolError("cannot read \"missing.uni\""));
     EXPECT_EQ(run.out, "");
 }
 

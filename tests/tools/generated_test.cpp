@@ -38,9 +38,9 @@ TEST(GeneratedScripts, AreTheSameForTheSameSeed)
 
 TEST(GeneratedScripts, EveryOneBuilds)
 {
-    static const std::set<std::string> adders = {"addLayer",        "addContour",          "addCutout",
-                                                 "addSet",          "addSteelmat",         "addCFSRodstock",
-                                                 "addStraightRodstock", "addFreeFormRodstock", "addExtIron"};
+    static const std::set<std::string> adders = {
+        "addLayer",       "addContour",          "addCutout",           "addSet",    "addSteelmat",
+        "addCFSRodstock", "addStraightRodstock", "addFreeFormRodstock", "addExtIron"};
     TemporaryDirectory directory;
     const std::vector<std::string> paths = GenerateScripts(directory.Path(), kSeed, kCount);
     ASSERT_EQ(paths.size(), kCount);

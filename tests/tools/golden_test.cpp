@@ -38,10 +38,7 @@ std::vector<Golden> Scenarios()
         // The last document goes to a folder that does not exist.
         {"orders", 3, "call 7 (endDocument): cannot write \"missing/file.txt\"", {}},
         {"slab", 0, "", {}},
-        {"reinforced",
-         0,
-         "",
-         {"summary-none.txt", "summary-fresh-600.txt", "summary-502.txt", "summary-600.txt"}},
+        {"reinforced", 0, "", {"summary-none.txt", "summary-fresh-600.txt", "summary-502.txt", "summary-600.txt"}},
     };
 }
 
@@ -143,11 +140,20 @@ TEST(GoldenTrace, TheReinforcedScenarioGivesTheResultsOfItsProgram)
     std::vector<std::string> expected = {"getFullReinforcementString summary-none.txt", "startOrder 1",
                                          "getFullReinforcementString summary-fresh-600.txt"};
     for (const char* version : {"502", "600"}) {
-        const std::vector<std::string> each = {
-            "startOrder 1",      "addCFSRodstock -1",   "addSteelmat 1",       "addSteelmat 2",
-            "addCFSRodstock 1",  "addCFSRodstock 2",    "addStraightRodstock", "addFreeFormRodstock",
-            "addSet 1",          "addExtIron 1",        "addExtIron 2",        "endDocument 1",
-            "addExtIron 3",      std::string("getFullReinforcementString summary-") + version + ".txt"};
+        const std::vector<std::string> each = {"startOrder 1",
+                                               "addCFSRodstock -1",
+                                               "addSteelmat 1",
+                                               "addSteelmat 2",
+                                               "addCFSRodstock 1",
+                                               "addCFSRodstock 2",
+                                               "addStraightRodstock",
+                                               "addFreeFormRodstock",
+                                               "addSet 1",
+                                               "addExtIron 1",
+                                               "addExtIron 2",
+                                               "endDocument 1",
+                                               "addExtIron 3",
+                                               std::string("getFullReinforcementString summary-") + version + ".txt"};
         expected.insert(expected.end(), each.begin(), each.end());
     }
     std::istringstream lines(ReadFileBytes(directory.File("trace.jsonl")));

@@ -90,10 +90,9 @@ std::string Script(const std::vector<std::string>& calls)
     return text + "]}\n";
 }
 
-const char* const kStartOrder600 =
-    R"({"call": "startOrder", "orderValue": 4, "elementNumberArg": 101, )"
-    R"("placement": [2.5, -2.5, 2.4, 6000, 0, 0, 0, 2400, 0], "version": 600, )"
-    R"("elementTextArg": "Slab", "elementMeasureArg": 1.25, "clearDocument": true})";
+const char* const kStartOrder600 = R"({"call": "startOrder", "orderValue": 4, "elementNumberArg": 101, )"
+                                   R"("placement": [2.5, -2.5, 2.4, 6000, 0, 0, 0, 2400, 0], "version": 600, )"
+                                   R"("elementTextArg": "Slab", "elementMeasureArg": 1.25, "clearDocument": true})";
 
 ToolResult BuildScript(const std::string& directory, const std::string& script, const std::vector<std::string>& options)
 {

@@ -8,8 +8,8 @@
 // Every name of EXPORT-LIST must be found in the DLL; the exports that the
 // list does not name yet are passed over if the DLL lacks them.
 
-#include "itunitechnik.h"
 #include "checks.h"
+#include "itunitechnik.h"
 
 #ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN
@@ -134,10 +134,7 @@ struct Exports {
 
 class Resolver {
 public:
-    Resolver(HMODULE module, std::vector<std::string> required)
-        : module_(module), required_(std::move(required))
-    {
-    }
+    Resolver(HMODULE module, std::vector<std::string> required) : module_(module), required_(std::move(required)) {}
 
     template <typename F>
     void operator()(const char* name, F& into)
@@ -182,8 +179,7 @@ void CheckSummary(const Exports& dll, bool withSteelmat)
         return;
     }
     const std::wstring text(first);
-    Check(first != second && text == std::wstring(second),
-          "two calls give two blocks with equal texts");
+    Check(first != second && text == std::wstring(second), "two calls give two blocks with equal texts");
     const std::string narrow = Narrow(text);
     Check(text.find(L'\r') == std::wstring::npos && EndsWith(narrow, "\n"),
           "the summary's lines end in a single line feed");
@@ -192,10 +188,9 @@ void CheckSummary(const Exports& dll, bool withSteelmat)
     const std::size_t girder = narrow.find("\nBRGIRDER\n");
     const std::size_t reinforcement = narrow.find("\nREFORCEM\n");
     const std::size_t irons = narrow.find("\nEXTIRON_\n");
-    Check(mounting == 0 && rodstock != std::string::npos && girder != std::string::npos
-              && reinforcement != std::string::npos && irons != std::string::npos
-              && mounting < rodstock && rodstock < girder && girder < reinforcement
-              && reinforcement < irons,
+    Check(mounting == 0 && rodstock != std::string::npos && girder != std::string::npos &&
+              reinforcement != std::string::npos && irons != std::string::npos && mounting < rodstock &&
+              rodstock < girder && girder < reinforcement && reinforcement < irons,
           "the summary holds its five records in their order");
     if (withSteelmat) {
         const std::size_t mat = narrow.find("\nSTEELMAT\n");
@@ -226,10 +221,9 @@ void FillElement(const Exports& dll)
 {
     if (dll.setProjectData != nullptr) {
         const it_char16* texts[IT_PROJECT_TEXT_COUNT] = {
-            L"4711",       L"T5",          L"T4",         L"T8",         L"Project 1",
-            L"Project 2",  L"Project 3",   L"Project 4",  L"Street 1",   L"Town",
-            L"12345",      L"Country",     L"Plant road", L"Plant town", L"54321",
-            L"Plant land", L"07.03.2024",  L"X2",         L"Forty"};
+            L"4711",      L"T5",         L"T4",         L"T8",    L"Project 1", L"Project 2",  L"Project 3",
+            L"Project 4", L"Street 1",   L"Town",       L"12345", L"Country",   L"Plant road", L"Plant town",
+            L"54321",     L"Plant land", L"07.03.2024", L"X2",    L"Forty"};
         dll.setProjectData(texts);
     }
     if (dll.setSlabInfoFields != nullptr) {
@@ -261,33 +255,25 @@ void FillElement(const Exports& dll)
         const int32_t part[6] = {11, 22, 0, 0, 3000, 2000};
         Check(dll.addSet(4, L"Nothing", 6, part) == 0, "addSet of an unknown kind gives 0");
         Check(dll.addSet(3, L"Socket", 6, part) == 1, "addSet of a mounted part gives 1");
-        const int32_t girders[20] = {1, 80, 500, 300, 60, 0, 7, 8, 1250, 9,
-                                     2, 90, 1500, 300, 60, 90, 7, 8, 2500, 9};
+        const int32_t girders[20] = {1, 80, 500, 300, 60, 0, 7, 8, 1250, 9, 2, 90, 1500, 300, 60, 90, 7, 8, 2500, 9};
         Check(dll.addSet(5, L"Girder", 20, girders) == 1, "addSet of two girders gives 1");
     }
     const int32_t position[3] = {100, 200, 30};
     if (dll.addCFSRodstock != nullptr) {
-        Check(dll.addCFSRodstock(1, L"Early", 10, 2000, 0, position, 30, 0, L"", 1, 0, 0, 0, 110)
-                  == -1,
+        Check(dll.addCFSRodstock(1, L"Early", 10, 2000, 0, position, 30, 0, L"", 1, 0, 0, 0, 110) == -1,
               "addCFSRodstock before any mat gives -1");
     }
     if (dll.addSteelmat != nullptr) {
-        Check(dll.addSteelmat(L"Mat A", 6000, 2400, 1, 0, 2, position) == 1,
-              "the first mat gets the number 1");
+        Check(dll.addSteelmat(L"Mat A", 6000, 2400, 1, 0, 2, position) == 1, "the first mat gets the number 1");
         if (dll.addCFSRodstock != nullptr) {
-            Check(dll.addCFSRodstock(1, L"Bar", 10, 2000, 0, position, 30, 0, L"Extra", 1, 3, 4,
-                                     5, 110)
-                      == 1,
+            Check(dll.addCFSRodstock(1, L"Bar", 10, 2000, 0, position, 30, 0, L"Extra", 1, 3, 4, 5, 110) == 1,
                   "the first bar of the first mat gets the number 1");
         }
-        Check(dll.addSteelmat(L"Mat B", 6000, 2400, 0, 1, 2, position) == 2,
-              "the second mat gets the number 2");
+        Check(dll.addSteelmat(L"Mat B", 6000, 2400, 0, 1, 2, position) == 2, "the second mat gets the number 2");
         if (dll.addCFSRodstock != nullptr) {
-            Check(dll.addCFSRodstock(2, L"Bar", 12, 2400, 0, position, 40, 90, L"", 0, 0, 0, 0, 20)
-                      == 1,
+            Check(dll.addCFSRodstock(2, L"Bar", 12, 2400, 0, position, 40, 90, L"", 0, 0, 0, 0, 20) == 1,
                   "a bar goes into the last mat and is numbered there from 1");
-            Check(dll.addCFSRodstock(2, L"Bar", 12, 2400, 0, position, 40, 90, L"", 0, 0, 0, 0, 200)
-                      == 2,
+            Check(dll.addCFSRodstock(2, L"Bar", 12, 2400, 0, position, 40, 90, L"", 0, 0, 0, 0, 200) == 2,
                   "the next bar of the last mat gets the number 2");
         }
     }
@@ -310,9 +296,8 @@ void FillElement(const Exports& dll)
         dll.addStraightRodstock(&bar);
     }
     if (dll.addFreeFormRodstock != nullptr) {
-        const ItFreeFormSegment segments[7] = {{100, 0, {0, 0}},  {200, 90, {0, 0}},
-                                               {300, -90, {0, 0}}, {400, 45, {0, 0}},
-                                               {500, 0, {0, 0}},  {600, 135, {0, 0}},
+        const ItFreeFormSegment segments[7] = {{100, 0, {0, 0}},  {200, 90, {0, 0}}, {300, -90, {0, 0}},
+                                               {400, 45, {0, 0}}, {500, 0, {0, 0}},  {600, 135, {0, 0}},
                                                {700, -45, {0, 0}}};
         bar.segmentCount = 7;
         bar.bendingCode = 2;
@@ -345,8 +330,7 @@ std::string WriteDocument(const Exports& dll, const std::wstring& directory, con
         noStream = noStream && !Exists(path + L":order" + std::to_wstring(n));
     }
     Check(noStream, label + ": no alternate stream is written for a blank text");
-    Check(dll.endDocument(path.c_str()) == 1 && ReadBytes(path) == bytes,
-          label + ": written again, the same bytes");
+    Check(dll.endDocument(path.c_str()) == 1 && ReadBytes(path) == bytes, label + ": written again, the same bytes");
     return bytes;
 }
 
@@ -389,32 +373,27 @@ int wmain(int argc, wchar_t** argv)
     resolve("addExtIron", dll.addExtIron);
     resolve("getFullReinforcementString", dll.getFullReinforcementString);
     resolve("freeFullReinforcementString", dll.freeFullReinforcementString);
-    Check(resolve.Resolved() >= static_cast<int>(required.size()),
-          "every listed export is found by name");
-    Check(::GetProcAddress(module, "DllMain") == nullptr,
-          "the entry point is not exported");
+    Check(resolve.Resolved() >= static_cast<int>(required.size()), "every listed export is found by name");
+    Check(::GetProcAddress(module, "DllMain") == nullptr, "the entry point is not exported");
 
     if (dll.startOrder != nullptr && dll.endDocument != nullptr) {
         // A fresh library holds no order.
         if (dll.getFullReinforcementString != nullptr) {
             it_char16* empty = dll.getFullReinforcementString();
-            Check(empty != nullptr && empty[0] == 0,
-                  "with no order the summary is the empty constant, not a block");
+            Check(empty != nullptr && empty[0] == 0, "with no order the summary is the empty constant, not a block");
             if (dll.freeFullReinforcementString != nullptr && empty != nullptr) {
                 // The free export knows the constant and leaves it alone: it is
                 // still there, the same, on the next call.
                 dll.freeFullReinforcementString(empty);
                 dll.freeFullReinforcementString(nullptr);
                 it_char16* again = dll.getFullReinforcementString();
-                Check(again == empty && again[0] == 0,
-                      "freeFullReinforcementString leaves the empty constant alone");
+                Check(again == empty && again[0] == 0, "freeFullReinforcementString leaves the empty constant alone");
                 dll.freeFullReinforcementString(again);
             }
         }
         const int32_t position[3] = {1, 2, 3};
         if (dll.addSteelmat != nullptr) {
-            Check(dll.addSteelmat(L"None", 1, 1, 0, 0, 0, position) == 0,
-                  "addSteelmat with no order gives 0");
+            Check(dll.addSteelmat(L"None", 1, 1, 0, 0, 0, position) == 0, "addSteelmat with no order gives 0");
         }
         if (dll.addExtIron != nullptr) {
             Check(dll.addExtIron(1, 1, 1.0, L"None") == 0, "addExtIron with no order gives 0");
@@ -424,32 +403,29 @@ int wmain(int argc, wchar_t** argv)
             Check(dll.addSet(3, L"None", 2, values) == 0, "addSet with no order gives 0");
         }
         const std::wstring emptyPath = directory + L"\\empty.txt";
-        Check(dll.endDocument(emptyPath.c_str()) == 1 && Exists(emptyPath)
-                  && ReadBytes(emptyPath).empty(),
+        Check(dll.endDocument(emptyPath.c_str()) == 1 && Exists(emptyPath) && ReadBytes(emptyPath).empty(),
               "endDocument with no order writes an empty file and gives 1");
         const std::wstring missingPath = directory + L"\\missing\\file.txt";
         Check(dll.endDocument(missingPath.c_str()) == 1 && !Exists(missingPath),
               "endDocument into a missing folder gives 1 and writes nothing");
 
         // Version 600, every export the DLL has.
-        Check(dll.startOrder(7, 101, placement, 600, L"Floor slab", 1.25, true) == 1,
-              "startOrder gives 1");
+        Check(dll.startOrder(7, 101, placement, 600, L"Floor slab", 1.25, true) == 1, "startOrder gives 1");
         FillElement(dll);
         CheckSummary(dll, dll.addSteelmat != nullptr);
         const std::string full = WriteDocument(dll, directory, L"host-600.txt", "600", 1);
         if (dll.setProjectData != nullptr) {
             // Text(20), blank, Text(5), blank, Text(4), blank, RText(8),
             // blank, UInt(2), blank, RText(2).
-            const std::string orderLine = "4711" + std::string(16, ' ') + " " + "T5   " + " "
-                                          + "T4  " + " " + "      T8" + " " + "07" + " " + "X2";
+            const std::string orderLine = "4711" + std::string(16, ' ') + " " + "T5   " + " " + "T4  " + " " +
+                                          "      T8" + " " + "07" + " " + "X2";
             Check(full.find("\r\n" + orderLine + "\r\n") != std::string::npos,
                   "host-600.txt: the order's line holds the host's texts");
         }
 
         // The older layouts, one order each, and two orders in one document.
         const std::pair<uint16_t, const wchar_t*> versions[] = {
-            {502, L"host-502.txt"}, {501, L"host-501.txt"}, {503, L"host-503.txt"},
-            {5, L"host-5.txt"}};
+            {502, L"host-502.txt"}, {501, L"host-501.txt"}, {503, L"host-503.txt"}, {5, L"host-5.txt"}};
         for (const auto& [version, name] : versions) {
             Check(dll.startOrder(3, 102, placement, version, L"Wall", 0.5, true) == 1,
                   "startOrder of version " + std::to_string(version) + " gives 1");
@@ -459,8 +435,8 @@ int wmain(int argc, wchar_t** argv)
             std::snprintf(number, sizeof number, "%03u", static_cast<unsigned>(version));
             WriteDocument(dll, directory, name, number, 1);
         }
-        Check(dll.startOrder(1, 201, placement, 502, L"First", 0, true) == 1
-                  && dll.startOrder(2, 202, placement, 600, L"Second", 0, false) == 1,
+        Check(dll.startOrder(1, 201, placement, 502, L"First", 0, true) == 1 &&
+                  dll.startOrder(2, 202, placement, 600, L"Second", 0, false) == 1,
               "two orders in one document");
         FillElement(dll);
         WriteDocument(dll, directory, L"host-two.txt", "502", 2);

@@ -5,8 +5,8 @@
 //
 //   version_resource DLL
 
-#include "itunitechnik.h"
 #include "checks.h"
+#include "itunitechnik.h"
 
 #ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN

@@ -66,8 +66,7 @@ int RunCommandLine(std::initializer_list<SubCommandMaker> subCommands, int argc,
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
 #endif
-    CLI::App app("unitechnik: makes and reads Unitechnik CAD/CAM files through the ItUnitechnik library",
-                 "unitechnik");
+    CLI::App app("unitechnik: makes and reads Unitechnik CAD/CAM files through the ItUnitechnik library", "unitechnik");
     app.require_subcommand(1);
     // The same command line on every platform: a path such as /tmp/a.json is
     // no Windows-style option.

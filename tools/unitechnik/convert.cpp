@@ -127,8 +127,8 @@ private:
     // with mats writes its mats and none of its own bars, girders or
     // external irons. Each is told once, at its place in FILE, and not the
     // records it holds.
-    void LeftOut(const Tree::FlatList& list, const Check::WrittenDocument& before,
-                 const Check::WrittenDocument& after, std::vector<Check::Finding>& findings) const
+    void LeftOut(const Tree::FlatList& list, const Check::WrittenDocument& before, const Check::WrittenDocument& after,
+                 std::vector<Check::Finding>& findings) const
     {
         for (const Tree::FlatRecord& record : list.records) {
             if (after.RecordStart(record.address)) {
@@ -146,8 +146,8 @@ private:
             finding.line = place->line;
             finding.column = place->column;
             finding.code = Check::Code::recordLeftOut;
-            finding.message = record.path + " is left out: a file of version " + std::to_string(version_) +
-                              " does not hold it";
+            finding.message =
+                record.path + " is left out: a file of version " + std::to_string(version_) + " does not hold it";
             finding.details["record"] = record.path;
             findings.push_back(std::move(finding));
         }

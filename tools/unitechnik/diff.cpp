@@ -54,7 +54,8 @@ public:
 
         std::string out;
         if (json_) {
-            out = Diff::ChangesJson(changes, fileA_, fileB_).dump(2, ' ', false, nlohmann::json::error_handler_t::replace) +
+            out = Diff::ChangesJson(changes, fileA_, fileB_)
+                      .dump(2, ' ', false, nlohmann::json::error_handler_t::replace) +
                   "\n";
         } else {
             for (const Diff::Change& change : changes) {

@@ -16,8 +16,8 @@ TolerantDocument ReadDocumentFile(const std::string& path)
 
 std::string StopMessage(const std::string& path, const ReadStop& stop)
 {
-    std::string message = path + ":" + std::to_string(stop.line) + ":" + std::to_string(stop.column) +
-                          ": expected " + stop.expected;
+    std::string message =
+        path + ":" + std::to_string(stop.line) + ":" + std::to_string(stop.column) + ": expected " + stop.expected;
     if (!stop.record.empty()) {
         message += " in " + stop.record;
     }

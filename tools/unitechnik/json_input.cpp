@@ -134,7 +134,6 @@ private:
     std::vector<Frame> frames_;
 };
 
-
 } // namespace
 
 nlohmann::json ParseJsonText(const std::string& text)

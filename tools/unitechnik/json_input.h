@@ -3,7 +3,6 @@
 #include <nlohmann/json.hpp>
 
 #include <cstddef>
-#include <cstddef>
 #include <string>
 
 namespace ItUnitechnik::Tool {

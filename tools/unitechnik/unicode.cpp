@@ -96,8 +96,7 @@ std::string HostToUtf8(const HostText& text)
     out.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
         const std::uint32_t unit = static_cast<std::uint16_t>(text[i]);
-        if (IsHighSurrogate(unit) && i + 1 < text.size()
-            && IsLowSurrogate(static_cast<std::uint16_t>(text[i + 1]))) {
+        if (IsHighSurrogate(unit) && i + 1 < text.size() && IsLowSurrogate(static_cast<std::uint16_t>(text[i + 1]))) {
             const std::uint32_t low = static_cast<std::uint16_t>(text[i + 1]);
             AppendUtf8(out, 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00));
             ++i;

@@ -17,14 +17,14 @@ public:
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
 
-    std::int32_t version;             // not written; the same number as the element's version
-    std::int32_t layerNumber = 0;     // first field, running number from 1
-    std::int16_t layerKind = 0;       // second field
-    std::int32_t layerThickness = 0;  // third field, millimetres
-    std::wstring layerName;           // fourth field, 8 places below 600, 20 from 600 on
-    double firstFactor = 0.0;         // fifth field
-    double secondFactor = 0.0;        // sixth field
-    std::wstring layerText20;         // last field, from version 600 on
+    std::int32_t version;            // not written; the same number as the element's version
+    std::int32_t layerNumber = 0;    // first field, running number from 1
+    std::int16_t layerKind = 0;      // second field
+    std::int32_t layerThickness = 0; // third field, millimetres
+    std::wstring layerName;          // fourth field, 8 places below 600, 20 from 600 on
+    double firstFactor = 0.0;        // fifth field
+    double secondFactor = 0.0;       // sixth field
+    std::wstring layerText20;        // last field, from version 600 on
 };
 
 } // namespace ItUnitechnik

@@ -13,10 +13,8 @@ void ElementPart::Changed()
 
 void ElementPart::SetExtents(const BoundingBox& box)
 {
-    extentX = static_cast<std::int32_t>(static_cast<std::uint32_t>(box.max.x)
-                                        - static_cast<std::uint32_t>(box.min.x));
-    extentY = static_cast<std::int32_t>(static_cast<std::uint32_t>(box.max.y)
-                                        - static_cast<std::uint32_t>(box.min.y));
+    extentX = static_cast<std::int32_t>(static_cast<std::uint32_t>(box.max.x) - static_cast<std::uint32_t>(box.min.x));
+    extentY = static_cast<std::int32_t>(static_cast<std::uint32_t>(box.max.y) - static_cast<std::uint32_t>(box.min.y));
 }
 
 void ElementPart::recomputeExtents()
@@ -43,8 +41,8 @@ void ElementPart::ExpectContour(const Contour& contour)
     }
 }
 
-ItCollectionImpl<std::vector<Contour>>::iterator ElementPart::Insert(
-    ItCollectionImpl<std::vector<Contour>>::iterator position, const Contour& contour)
+ItCollectionImpl<std::vector<Contour>>::iterator
+ElementPart::Insert(ItCollectionImpl<std::vector<Contour>>::iterator position, const Contour& contour)
 {
     ExpectContour(contour);
     return ItCollectionImpl<std::vector<Contour>>::Insert(position, contour);

@@ -6,13 +6,20 @@
 namespace ItUnitechnik {
 
 ElementPart::ElementPart()
-    : ItCollectionImpl<std::vector<ConcreteLayer>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).concreteLayers; }),
-      ItCollectionImpl<std::vector<Contour>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).contourData.contours; }),
-      ItCollectionImpl<std::vector<Cutout>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).cutoutData.cutouts; }),
-      ItCollectionImpl<std::vector<MountingPart>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).mountingPartData.parts; }),
-      ItCollectionImpl<std::vector<Rodstock>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).rodstockData.bars; }),
-      ItCollectionImpl<std::vector<BracedGirder>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).bracedGirderData.girders; }),
-      ItCollectionImpl<std::vector<ExternalIron>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).externalIronData.irons; }),
+    : ItCollectionImpl<std::vector<ConcreteLayer>>(
+          [](auto& self) -> auto& { return static_cast<ElementPart&>(self).concreteLayers; }),
+      ItCollectionImpl<std::vector<Contour>>(
+          [](auto& self) -> auto& { return static_cast<ElementPart&>(self).contourData.contours; }),
+      ItCollectionImpl<std::vector<Cutout>>(
+          [](auto& self) -> auto& { return static_cast<ElementPart&>(self).cutoutData.cutouts; }),
+      ItCollectionImpl<std::vector<MountingPart>>(
+          [](auto& self) -> auto& { return static_cast<ElementPart&>(self).mountingPartData.parts; }),
+      ItCollectionImpl<std::vector<Rodstock>>(
+          [](auto& self) -> auto& { return static_cast<ElementPart&>(self).rodstockData.bars; }),
+      ItCollectionImpl<std::vector<BracedGirder>>(
+          [](auto& self) -> auto& { return static_cast<ElementPart&>(self).bracedGirderData.girders; }),
+      ItCollectionImpl<std::vector<ExternalIron>>(
+          [](auto& self) -> auto& { return static_cast<ElementPart&>(self).externalIronData.irons; }),
       ItCollectionImpl<std::vector<Layer>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).layers; })
 {
     codeA1 = L"0";

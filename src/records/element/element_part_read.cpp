@@ -81,14 +81,14 @@ bool ElementPart::Read(Archive& ar)
     if (version >= 502) {
         std::int32_t count = 0;
         ar >> count;
-        ReadElements(ar, count, [&] { return ConcreteLayer(version); }, concreteLayers);
+        ReadElements(
+            ar, count, [&] { return ConcreteLayer(version); }, concreteLayers);
         SkipLine(ar);
     }
 
     // Line C. The optional pair is there when the line goes on behind the
     // tenth value.
-    ar >> extentX >> extentY >> valueC1 >> valueC2 >> valueC3 >> valueC4 >> valueC5 >> valueC6
-        >> valueC7 >> valueC8;
+    ar >> extentX >> extentY >> valueC1 >> valueC2 >> valueC3 >> valueC4 >> valueC5 >> valueC6 >> valueC7 >> valueC8;
     elementVector.Read(ar);
     SkipChar(ar);
     {

@@ -8,7 +8,8 @@ namespace ItUnitechnik {
 
 Layer::Layer()
     : ItCollectionImpl<std::vector<Lot>>([](auto& self) -> auto& { return static_cast<Layer&>(self).lots; }),
-      ItCollectionImpl<std::vector<MountingPart>>([](auto& self) -> auto& { return static_cast<Layer&>(self).mountingPartData.parts; })
+      ItCollectionImpl<std::vector<MountingPart>>(
+          [](auto& self) -> auto& { return static_cast<Layer&>(self).mountingPartData.parts; })
 {
 }
 
@@ -50,7 +51,8 @@ bool Layer::Read(Archive& ar)
     if (!ExpectToken(ar, L"END")) {
         return false;
     }
-    ReadElements(ar, lotCount, [] { return Lot(); }, lots);
+    ReadElements(
+        ar, lotCount, [] { return Lot(); }, lots);
     mountingPartData.Read(ar);
     if (!Healthy(ar)) {
         return false;

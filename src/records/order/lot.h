@@ -36,19 +36,19 @@ public:
     using ItCollectionImpl<std::vector<Contour>>::Remove;
     using ItCollectionImpl<std::vector<Cutout>>::Remove;
 
-    std::int16_t version = 502;    // line 2; decides the widths of the data line
-    std::int32_t lotNumber = 0;    // data line, first field
-    std::wstring lotText;          // data line, 8 wide below 600, 20 from 600
-    double lotReal1 = 0.0;         // data line
-    std::wstring lotCode2;         // data line, two characters
-    double lotReal2 = 0.0;         // data line
-    std::int32_t lotValue1 = 0;    // data line, six digits
-    std::int32_t lotValue2 = 0;    // data line, six digits
-    std::int32_t lotValue3 = 0;    // data line, six digits
-    std::int32_t lotValue4 = 0;    // data line, three digits
-    std::wstring lotText20;        // data line, last, from 600
-    ContourData contourData;       // behind "END"
-    CutoutData cutoutData;         // behind the contours
+    std::int16_t version = 502; // line 2; decides the widths of the data line
+    std::int32_t lotNumber = 0; // data line, first field
+    std::wstring lotText;       // data line, 8 wide below 600, 20 from 600
+    double lotReal1 = 0.0;      // data line
+    std::wstring lotCode2;      // data line, two characters
+    double lotReal2 = 0.0;      // data line
+    std::int32_t lotValue1 = 0; // data line, six digits
+    std::int32_t lotValue2 = 0; // data line, six digits
+    std::int32_t lotValue3 = 0; // data line, six digits
+    std::int32_t lotValue4 = 0; // data line, three digits
+    std::wstring lotText20;     // data line, last, from 600
+    ContourData contourData;    // behind "END"
+    CutoutData cutoutData;      // behind the contours
 };
 
 } // namespace ItUnitechnik

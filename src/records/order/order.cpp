@@ -8,50 +8,33 @@
 
 namespace ItUnitechnik {
 
-Order::Order() : ItCollectionImpl<std::vector<ElementPart>>([](auto& self) -> auto& { return static_cast<Order&>(self).elementParts; })
+Order::Order()
+    : ItCollectionImpl<std::vector<ElementPart>>(
+          [](auto& self) -> auto& { return static_cast<Order&>(self).elementParts; })
 {
     date.version = version;
 }
 
 Order::Order(const Order& other)
-    : Serializable(other),
-      ItCollectionImpl<std::vector<ElementPart>>(other),
-      version(other.version),
-      orderNumber(other.orderNumber),
-      orderText5(other.orderText5),
-      orderText4(other.orderText4),
-      orderText8(other.orderText8),
-      orderValue2(other.orderValue2),
-      legacyText2(other.legacyText2),
-      legacyText40(other.legacyText40),
-      orderText2(other.orderText2),
-      project(other.project),
-      firstAddress(other.firstAddress),
-      secondAddress(other.secondAddress),
-      date(other.date),
-      orderText40(other.orderText40),
-      elementParts(other.elementParts)
+    : Serializable(other), ItCollectionImpl<std::vector<ElementPart>>(other), version(other.version),
+      orderNumber(other.orderNumber), orderText5(other.orderText5), orderText4(other.orderText4),
+      orderText8(other.orderText8), orderValue2(other.orderValue2), legacyText2(other.legacyText2),
+      legacyText40(other.legacyText40), orderText2(other.orderText2), project(other.project),
+      firstAddress(other.firstAddress), secondAddress(other.secondAddress), date(other.date),
+      orderText40(other.orderText40), elementParts(other.elementParts)
 {
     date.version = version;
 }
 
 Order::Order(Order&& other) noexcept
-    : Serializable(other),
-      ItCollectionImpl<std::vector<ElementPart>>(std::move(other)),
-      version(std::move(other.version)),
-      orderNumber(std::move(other.orderNumber)),
-      orderText5(std::move(other.orderText5)),
-      orderText4(std::move(other.orderText4)),
-      orderText8(std::move(other.orderText8)),
-      orderValue2(std::move(other.orderValue2)),
-      legacyText2(std::move(other.legacyText2)),
-      legacyText40(std::move(other.legacyText40)),
-      orderText2(std::move(other.orderText2)),
-      project(std::move(other.project)),
-      firstAddress(std::move(other.firstAddress)),
-      secondAddress(std::move(other.secondAddress)),
-      date(std::move(other.date)),
-      orderText40(std::move(other.orderText40)),
+    : Serializable(other), ItCollectionImpl<std::vector<ElementPart>>(std::move(other)),
+      version(std::move(other.version)), orderNumber(std::move(other.orderNumber)),
+      orderText5(std::move(other.orderText5)), orderText4(std::move(other.orderText4)),
+      orderText8(std::move(other.orderText8)), orderValue2(std::move(other.orderValue2)),
+      legacyText2(std::move(other.legacyText2)), legacyText40(std::move(other.legacyText40)),
+      orderText2(std::move(other.orderText2)), project(std::move(other.project)),
+      firstAddress(std::move(other.firstAddress)), secondAddress(std::move(other.secondAddress)),
+      date(std::move(other.date)), orderText40(std::move(other.orderText40)),
       elementParts(std::move(other.elementParts))
 {
     date.version = version;
@@ -242,7 +225,8 @@ bool Order::Read(Archive& ar)
     // An element that fails is not kept and does not stop the loop; once the
     // stream itself has failed no later element can be read, so a count far
     // beyond what the file holds ends there.
-    ReadElements(ar, elementCount, [] { return ElementPart(); }, elementParts);
+    ReadElements(
+        ar, elementCount, [] { return ElementPart(); }, elementParts);
 
     if (!ExpectLine(ar, L"END HEADER__")) {
         return false;

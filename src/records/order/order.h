@@ -31,21 +31,21 @@ public:
     // down.
     void setVersion(std::int16_t newVersion);
 
-    std::int16_t version = 502;    // line 2; copied into `date`
-    std::wstring orderNumber;      // line 3, 8 wide below 600, 20 from 600
+    std::int16_t version = 502; // line 2; copied into `date`
+    std::wstring orderNumber;   // line 3, 8 wide below 600, 20 from 600
     std::wstring orderText5 = L"     ";
     std::wstring orderText4 = L"    ";
-    std::wstring orderText8;       // line 3, right-aligned
-    std::int16_t orderValue2 = 0;  // line 3, two digits
+    std::wstring orderText8;                            // line 3, right-aligned
+    std::int16_t orderValue2 = 0;                       // line 3, two digits
     std::wstring legacyText2 = L"00";                   // line 3, up to 502
     std::wstring legacyText40 = std::wstring(40, L' '); // line 3, up to 502; the alternate stream from 600
-    std::wstring orderText2;       // line 3, above 502
-    Project project;               // lines 4 to 7
-    Address firstAddress;          // lines 8 to 11
-    Address secondAddress;         // lines 12 to 15
-    Date date;                     // line 16
-    std::wstring orderText40;      // line 17, from 600
-    std::vector<ElementPart> elementParts; // the element records, between "END" and "END HEADER__"
+    std::wstring orderText2;                            // line 3, above 502
+    Project project;                                    // lines 4 to 7
+    Address firstAddress;                               // lines 8 to 11
+    Address secondAddress;                              // lines 12 to 15
+    Date date;                                          // line 16
+    std::wstring orderText40;                           // line 17, from 600
+    std::vector<ElementPart> elementParts;              // the element records, between "END" and "END HEADER__"
 };
 
 } // namespace ItUnitechnik

@@ -7,7 +7,10 @@
 
 namespace ItUnitechnik {
 
-Contour::Contour(std::int32_t formatVersion) : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Contour&>(self).geoData; }), version(formatVersion) {}
+Contour::Contour(std::int32_t formatVersion)
+    : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Contour&>(self).geoData; }), version(formatVersion)
+{
+}
 
 bool Contour::Write(Archive& ar)
 {
@@ -37,11 +40,15 @@ bool Contour::Read(Archive& ar)
     std::int32_t count = 0;
     ar >> count;
     // Only the stream decides: an element of unknown kind is kept.
-    ReadElements(ar, count, [&] { return GeoData(version); }, geoData);
+    ReadElements(
+        ar, count, [&] { return GeoData(version); }, geoData);
     return Healthy(ar);
 }
 
-ContourData::ContourData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<ContourData&>(self).contours; }) {}
+ContourData::ContourData()
+    : ItCollectionImpl([](auto& self) -> auto& { return static_cast<ContourData&>(self).contours; })
+{
+}
 
 bool ContourData::Write(Archive& ar)
 {
@@ -52,7 +59,8 @@ bool ContourData::Read(Archive& ar)
 {
     // Unlike its sister records, a wrong end tag here does not spoil the
     // rest of the Archive.
-    return ReadList(ar, L"CONTOUR_", version, [&] { return Contour(version); }, contours, WrongEnd::failsList);
+    return ReadList(
+        ar, L"CONTOUR_", version, [&] { return Contour(version); }, contours, WrongEnd::failsList);
 }
 
 BoundingBox Contour::boundingBox() const

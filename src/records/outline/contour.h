@@ -22,10 +22,10 @@ public:
     // The box of all its curves; the inverted box when there is none.
     BoundingBox boundingBox() const;
 
-    std::int32_t version;            // not written; handed on to the elements that Read makes
-    std::int32_t contourNumber = 0;  // first field, running number from 1
+    std::int32_t version;             // not written; handed on to the elements that Read makes
+    std::int32_t contourNumber = 0;   // first field, running number from 1
     std::wstring contourCode = L"00"; // second field, cut to two characters
-    std::vector<GeoData> geoData;    // behind the count, one line each
+    std::vector<GeoData> geoData;     // behind the count, one line each
 };
 
 // The record "CONTOUR_": the outlines of an element or a lot.
@@ -42,8 +42,8 @@ public:
     // none.
     BoundingBox boundingBox() const;
 
-    std::int16_t version = 502;     // second line
-    std::vector<Contour> contours;  // behind the count
+    std::int16_t version = 502;    // second line
+    std::vector<Contour> contours; // behind the count
 };
 
 } // namespace ItUnitechnik

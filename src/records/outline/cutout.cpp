@@ -7,7 +7,10 @@
 
 namespace ItUnitechnik {
 
-Cutout::Cutout(std::int32_t formatVersion) : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Cutout&>(self).geoData; }), version(formatVersion) {}
+Cutout::Cutout(std::int32_t formatVersion)
+    : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Cutout&>(self).geoData; }), version(formatVersion)
+{
+}
 
 bool Cutout::Write(Archive& ar)
 {
@@ -37,11 +40,14 @@ bool Cutout::Read(Archive& ar)
     }
     std::int32_t count = 0;
     ar >> count;
-    ReadElements(ar, count, [&] { return GeoData(version); }, geoData);
+    ReadElements(
+        ar, count, [&] { return GeoData(version); }, geoData);
     return Healthy(ar);
 }
 
-CutoutData::CutoutData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<CutoutData&>(self).cutouts; }) {}
+CutoutData::CutoutData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<CutoutData&>(self).cutouts; })
+{
+}
 
 bool CutoutData::Write(Archive& ar)
 {
@@ -50,7 +56,8 @@ bool CutoutData::Write(Archive& ar)
 
 bool CutoutData::Read(Archive& ar)
 {
-    return ReadList(ar, L"CUTOUT__", version, [&] { return Cutout(version); }, cutouts);
+    return ReadList(
+        ar, L"CUTOUT__", version, [&] { return Cutout(version); }, cutouts);
 }
 
 } // namespace ItUnitechnik

@@ -19,11 +19,11 @@ public:
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
 
-    std::int32_t version;           // not written; decides the name's field and goes to the elements
-    std::int32_t cutoutNumber = 0;  // first field, running number from 1
-    double cutoutValue = 0.0;       // second field; only stored
-    std::wstring cutoutName;        // third field, 40 places, from version 600 on
-    std::vector<GeoData> geoData;   // behind the count, one line each
+    std::int32_t version;          // not written; decides the name's field and goes to the elements
+    std::int32_t cutoutNumber = 0; // first field, running number from 1
+    double cutoutValue = 0.0;      // second field; only stored
+    std::wstring cutoutName;       // third field, 40 places, from version 600 on
+    std::vector<GeoData> geoData;  // behind the count, one line each
 };
 
 // The record "CUTOUT__": the openings of an element or a lot.

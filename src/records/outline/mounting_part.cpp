@@ -7,7 +7,11 @@
 
 namespace ItUnitechnik {
 
-MountingPart::MountingPart(std::int16_t formatVersion) : ItCollectionImpl([](auto& self) -> auto& { return static_cast<MountingPart&>(self).geoData; }), version(formatVersion) {}
+MountingPart::MountingPart(std::int16_t formatVersion)
+    : ItCollectionImpl([](auto& self) -> auto& { return static_cast<MountingPart&>(self).geoData; }),
+      version(formatVersion)
+{
+}
 
 bool MountingPart::Write(Archive& ar)
 {
@@ -76,14 +80,18 @@ bool MountingPart::Read(Archive& ar)
     ar >> setValue2 >> partValue1 >> partValue2 >> partWidth >> partHeight;
     std::int32_t count = 0;
     ar >> count;
-    ReadElements(ar, count, [&] { return GeoData(version); }, geoData);
+    ReadElements(
+        ar, count, [&] { return GeoData(version); }, geoData);
     // Without elements this takes the rest of the count's line. Behind a line
     // or polygon element it drops the following line whole.
     SkipLine(ar);
     return Healthy(ar);
 }
 
-MountingPartData::MountingPartData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<MountingPartData&>(self).parts; }) {}
+MountingPartData::MountingPartData()
+    : ItCollectionImpl([](auto& self) -> auto& { return static_cast<MountingPartData&>(self).parts; })
+{
+}
 
 bool MountingPartData::Write(Archive& ar)
 {
@@ -92,7 +100,8 @@ bool MountingPartData::Write(Archive& ar)
 
 bool MountingPartData::Read(Archive& ar)
 {
-    return ReadList(ar, L"MOUNPART", version, [&] { return MountingPart(version); }, parts);
+    return ReadList(
+        ar, L"MOUNPART", version, [&] { return MountingPart(version); }, parts);
 }
 
 } // namespace ItUnitechnik

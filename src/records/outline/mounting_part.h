@@ -23,23 +23,23 @@ public:
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
 
-    std::int16_t version;                       // not written; decides the widths and lines
-    std::int32_t partNumber = 0;                // line 1, running number from 1
-    std::vector<GeoData> geoData;               // behind the last line, one line each
-    wchar_t partKind = L'0';                    // line 1, the character in front of partSubCode
-    std::int16_t partSubCode = 0;               // line 1, two digits
-    std::wstring partCode = std::wstring(10, L' ');  // line 1, 10 places
-    std::wstring partName = std::wstring(40, L' ');  // line 1, 40 places, rest of the line
-    std::wstring partText1;                     // line 2, from version 600 on
-    std::wstring partText2;                     // line 3, from version 600 on
-    double partArea = 0.0;                      // last line, square metres
-    std::int32_t setValue1 = 0;                 // last line
-    std::int32_t setValue2 = 0;                 // last line, signed from version 600 on
-    Point2d position;                           // last line, from version 600 on
-    std::int32_t partValue1 = 0;                // last line; only stored
-    std::int32_t partValue2 = 0;                // last line; only stored
-    std::uint32_t partWidth = 0;                // last line, extent of the outline in x
-    std::uint32_t partHeight = 0;               // last line, extent of the outline in y
+    std::int16_t version;                           // not written; decides the widths and lines
+    std::int32_t partNumber = 0;                    // line 1, running number from 1
+    std::vector<GeoData> geoData;                   // behind the last line, one line each
+    wchar_t partKind = L'0';                        // line 1, the character in front of partSubCode
+    std::int16_t partSubCode = 0;                   // line 1, two digits
+    std::wstring partCode = std::wstring(10, L' '); // line 1, 10 places
+    std::wstring partName = std::wstring(40, L' '); // line 1, 40 places, rest of the line
+    std::wstring partText1;                         // line 2, from version 600 on
+    std::wstring partText2;                         // line 3, from version 600 on
+    double partArea = 0.0;                          // last line, square metres
+    std::int32_t setValue1 = 0;                     // last line
+    std::int32_t setValue2 = 0;                     // last line, signed from version 600 on
+    Point2d position;                               // last line, from version 600 on
+    std::int32_t partValue1 = 0;                    // last line; only stored
+    std::int32_t partValue2 = 0;                    // last line; only stored
+    std::uint32_t partWidth = 0;                    // last line, extent of the outline in x
+    std::uint32_t partHeight = 0;                   // last line, extent of the outline in y
 };
 
 // The record "MOUNPART": the parts set into an element.

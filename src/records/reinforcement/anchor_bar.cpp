@@ -47,7 +47,8 @@ bool AnchorBarData::Read(Archive& ar)
 {
     std::int32_t count = 0;
     ar >> anchorCode >> count;
-    ReadElements(ar, count, [&] { return AnchorBar(); }, bars);
+    ReadElements(
+        ar, count, [&] { return AnchorBar(); }, bars);
     return Healthy(ar);
 }
 

@@ -72,7 +72,8 @@ bool BendingFormFree::Read(Archive& ar)
     formCode = ReadToken(ar);
     std::int32_t count = 0;
     ar >> count;
-    ReadElements(ar, count, [&] { return BendingFormPart(); }, parts);
+    ReadElements(
+        ar, count, [&] { return BendingFormPart(); }, parts);
     return Healthy(ar);
 }
 

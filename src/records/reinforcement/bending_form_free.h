@@ -27,8 +27,15 @@ public:
 // One line of a free bending form: its number and up to six segments.
 class BendingFormPart : public Serializable, public ItCollectionImpl<std::vector<BendingFormSegment>> {
 public:
-    BendingFormPart() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BendingFormPart&>(self).segments; }) {}
-    explicit BendingFormPart(std::int32_t number) : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BendingFormPart&>(self).segments; }), partNumber(number) {}
+    BendingFormPart()
+        : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BendingFormPart&>(self).segments; })
+    {
+    }
+    explicit BendingFormPart(std::int32_t number)
+        : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BendingFormPart&>(self).segments; }),
+          partNumber(number)
+    {
+    }
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
@@ -41,7 +48,9 @@ public:
 // second line. The last line is ended by whoever writes the bar.
 class BendingFormFree : public Serializable, public ItCollectionImpl<std::vector<BendingFormPart>> {
 public:
-    BendingFormFree() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BendingFormFree&>(self).parts; }) {}
+    BendingFormFree() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BendingFormFree&>(self).parts; })
+    {
+    }
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;

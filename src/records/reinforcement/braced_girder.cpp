@@ -8,7 +8,9 @@
 namespace ItUnitechnik {
 
 BracedGirder::BracedGirder()
-    : ItCollectionImpl<WeldingPointData>([](auto& self) -> auto& { return static_cast<BracedGirder&>(self).weldingPoints; }), ItCollectionImpl<AnchorBarData>([](auto& self) -> auto& { return static_cast<BracedGirder&>(self).anchorBars; })
+    : ItCollectionImpl<WeldingPointData>(
+          [](auto& self) -> auto& { return static_cast<BracedGirder&>(self).weldingPoints; }),
+      ItCollectionImpl<AnchorBarData>([](auto& self) -> auto& { return static_cast<BracedGirder&>(self).anchorBars; })
 {
 }
 
@@ -106,7 +108,8 @@ bool BracedGirderData::Write(Archive& ar)
 
 bool BracedGirderData::Read(Archive& ar)
 {
-    return ReadList(ar, L"BRGIRDER", version, [] { return BracedGirder(); }, girders);
+    return ReadList(
+        ar, L"BRGIRDER", version, [] { return BracedGirder(); }, girders);
 }
 
 void BracedGirderData::appendGirder(BracedGirder& girder)

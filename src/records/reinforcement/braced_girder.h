@@ -23,32 +23,35 @@ public:
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
 
-    std::int32_t number = 0;         // first line: running number, from 1
-    std::wstring code = L"000";      // 3 places, zero-filled
-    std::int32_t typeNumber = 0;     // 5 digits
-    std::wstring designation;        // 10 places, left-aligned
-    std::int32_t firstSize = 0;      // 5 digits
-    Point2d position;                // x and y, each a sign and 5 digits
-    std::int32_t positionZ = 0;      // sign and 5 digits
-    std::int32_t rotation = 0;       // sign and 3 digits
-    bool mountFlag = false;          // last on the first line
-    std::wstring firstCode = L"000"; // second line: 3 places, zero-filled
+    std::int32_t number = 0;          // first line: running number, from 1
+    std::wstring code = L"000";       // 3 places, zero-filled
+    std::int32_t typeNumber = 0;      // 5 digits
+    std::wstring designation;         // 10 places, left-aligned
+    std::int32_t firstSize = 0;       // 5 digits
+    Point2d position;                 // x and y, each a sign and 5 digits
+    std::int32_t positionZ = 0;       // sign and 5 digits
+    std::int32_t rotation = 0;        // sign and 3 digits
+    bool mountFlag = false;           // last on the first line
+    std::wstring firstCode = L"000";  // second line: 3 places, zero-filled
     std::wstring secondCode = L"000"; // 3 places, zero-filled
-    std::int32_t auxNumber = 0;      // 3 digits
-    double scaledValue = 0.0;        // 2 places, point, 3 decimals
-    std::int32_t shortNumber = 0;    // 2 digits
-    std::wstring thirdCode;          // 3 places, right-aligned, blank-filled
-    std::int32_t lastNumber = 0;     // 5 digits
-    bool hasAnchorBars = false;      // last on the second line
-    bool hasWeldingPoints = false;   // before a constant 0 and the anchor flag
-    WeldingPointData weldingPoints;  // behind the second line, when `hasWeldingPoints`
-    AnchorBarData anchorBars;        // last, when `hasAnchorBars`
+    std::int32_t auxNumber = 0;       // 3 digits
+    double scaledValue = 0.0;         // 2 places, point, 3 decimals
+    std::int32_t shortNumber = 0;     // 2 digits
+    std::wstring thirdCode;           // 3 places, right-aligned, blank-filled
+    std::int32_t lastNumber = 0;      // 5 digits
+    bool hasAnchorBars = false;       // last on the second line
+    bool hasWeldingPoints = false;    // before a constant 0 and the anchor flag
+    WeldingPointData weldingPoints;   // behind the second line, when `hasWeldingPoints`
+    AnchorBarData anchorBars;         // last, when `hasAnchorBars`
 };
 
 // The record "BRGIRDER": the braced girders of an element or of a mat.
 class BracedGirderData : public Serializable, public ItCollectionImpl<std::vector<BracedGirder>> {
 public:
-    BracedGirderData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BracedGirderData&>(self).girders; }) {}
+    BracedGirderData()
+        : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BracedGirderData&>(self).girders; })
+    {
+    }
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
@@ -58,8 +61,8 @@ public:
     // caller finds the number in its own `girder`.
     void appendGirder(BracedGirder& girder);
 
-    std::int16_t version = 502;         // second line
-    std::vector<BracedGirder> girders;  // count on the third line, then each girder
+    std::int16_t version = 502;        // second line
+    std::vector<BracedGirder> girders; // count on the third line, then each girder
 };
 
 } // namespace ItUnitechnik

@@ -40,7 +40,8 @@ bool ExternalIronData::Write(Archive& ar)
 
 bool ExternalIronData::Read(Archive& ar)
 {
-    return ReadList(ar, L"EXTIRON_", version, [] { return ExternalIron(); }, irons);
+    return ReadList(
+        ar, L"EXTIRON_", version, [] { return ExternalIron(); }, irons);
 }
 
 void ExternalIronData::appendIron(ExternalIron& iron)

@@ -28,7 +28,10 @@ public:
 // reinforcement block.
 class ExternalIronData : public Serializable, public ItCollectionImpl<std::vector<ExternalIron>> {
 public:
-    ExternalIronData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<ExternalIronData&>(self).irons; }) {}
+    ExternalIronData()
+        : ItCollectionImpl([](auto& self) -> auto& { return static_cast<ExternalIronData&>(self).irons; })
+    {
+    }
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;

@@ -24,20 +24,19 @@ public:
     // Makes a mat of this block's version (its bar and girder lists too),
     // fills it, numbers it as the next of the block and appends a copy. A
     // flag is set by any value but 0. Returns the mat's number.
-    std::int16_t appendSteelmat(const std::wstring& name, std::int32_t firstDimension,
-                                std::int32_t secondDimension, std::int32_t firstFlag,
-                                std::int32_t secondFlag, std::int32_t matKind,
+    std::int16_t appendSteelmat(const std::wstring& name, std::int32_t firstDimension, std::int32_t secondDimension,
+                                std::int32_t firstFlag, std::int32_t secondFlag, std::int32_t matKind,
                                 const std::int32_t position[3]);
 
-    std::int16_t version = 502;      // second line
-    std::wstring firstText;          // third line, 10 places
-    std::wstring secondText;         // 4 places
-    std::wstring thirdText;          // 8 places
-    std::int16_t matFlag = 0;        // last on the third line, one digit
-    std::vector<Steelmat> mats;      // behind "END", each ended by this block
-    ExternalIronData externalIrons;  // behind the mats, when `hasExternalIrons`
-    bool hasExternalIrons = false;   // set only by Read
-    bool present = false;            // the block holds something
+    std::int16_t version = 502;     // second line
+    std::wstring firstText;         // third line, 10 places
+    std::wstring secondText;        // 4 places
+    std::wstring thirdText;         // 8 places
+    std::int16_t matFlag = 0;       // last on the third line, one digit
+    std::vector<Steelmat> mats;     // behind "END", each ended by this block
+    ExternalIronData externalIrons; // behind the mats, when `hasExternalIrons`
+    bool hasExternalIrons = false;  // set only by Read
+    bool present = false;           // the block holds something
 };
 
 } // namespace ItUnitechnik

@@ -8,7 +8,10 @@
 namespace ItUnitechnik {
 
 Rodstock::Rodstock(std::int16_t barVersion)
-    : ItCollectionImpl<SpacerData>([](auto& self) -> auto& { return static_cast<Rodstock&>(self).spacers; }), ItCollectionImpl<WeldingPointData>([](auto& self) -> auto& { return static_cast<Rodstock&>(self).weldingPoints; }), version(barVersion)
+    : ItCollectionImpl<SpacerData>([](auto& self) -> auto& { return static_cast<Rodstock&>(self).spacers; }),
+      ItCollectionImpl<WeldingPointData>(
+          [](auto& self) -> auto& { return static_cast<Rodstock&>(self).weldingPoints; }),
+      version(barVersion)
 {
 }
 
@@ -146,7 +149,8 @@ bool RodstockData::Write(Archive& ar)
 
 bool RodstockData::Read(Archive& ar)
 {
-    return ReadList(ar, L"RODSTOCK", version, [&] { return Rodstock(version); }, bars);
+    return ReadList(
+        ar, L"RODSTOCK", version, [&] { return Rodstock(version); }, bars);
 }
 
 void RodstockData::appendRodstock(Rodstock& bar)

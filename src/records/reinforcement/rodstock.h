@@ -16,9 +16,7 @@ namespace ItUnitechnik {
 
 // One bar entry of a "RODSTOCK" record: two lines of its own, then the
 // bending data, spacers and welding points its flags call for.
-class Rodstock : public Serializable,
-                 public ItCollectionImpl<SpacerData>,
-                 public ItCollectionImpl<WeldingPointData> {
+class Rodstock : public Serializable, public ItCollectionImpl<SpacerData>, public ItCollectionImpl<WeldingPointData> {
 public:
     // A bar is always made for a version: it decides the width of
     // `designation`.
@@ -32,34 +30,34 @@ public:
     // any other tens digit but 0 for a free form. The units are ignored.
     void applyFlagsCode(std::int32_t flagsCode);
 
-    std::int16_t version;            // not in the bar's lines: the list hands it on
-    std::int32_t number = 0;         // first line: running number, from 1
-    std::wstring code = L"000";      // 3 places, zero-filled
-    std::int32_t rodKind = 0;        // 1 digit
-    std::wstring designation;        // 10 places from version 600, 3 below
-    std::int32_t firstSize = 0;      // 5 digits
-    std::int32_t secondSize = 0;     // 3 digits
-    std::int32_t thirdSize = 0;      // 5 digits
-    Point2d position;                // x and y, each a sign and 5 digits
-    std::int32_t positionZ = 0;      // sign and 5 digits
-    std::int32_t rotation = 0;       // sign and 3 digits
-    std::wstring extraDesignation;   // 10 places, padded in front
-    bool mountFlag = false;          // last on the first line
-    std::int32_t auxFirst = 0;       // second line: 3 digits
-    std::int32_t auxSecond = 0;      // 3 digits
-    std::int32_t auxThird = 0;       // 3 digits
-    std::int32_t auxFourth = 0;      // 5 digits
-    std::int32_t auxFifth = 0;       // 5 digits
-    std::int32_t auxSixth = 0;       // 5 digits
-    bool hasWeldingPoints = false;   // digit, then right behind it
-    bool hasSpacers = false;         // digit, then right behind it
-    wchar_t bendingKind = L'0';      // last on the second line: '1' two forms, '2' free form
-    BendingForm firstForm;           // bending line, kind '1'
-    BendingForm secondForm;          // bending line, kind '1'
-    std::int32_t formAngle = 0;      // end of the bending line, sign and 3 digits
-    BendingFormFree freeForm;        // behind the second line, kind '2'
-    SpacerData spacers;              // behind the bending data, when `hasSpacers`
-    WeldingPointData weldingPoints;  // last, when `hasWeldingPoints`
+    std::int16_t version;           // not in the bar's lines: the list hands it on
+    std::int32_t number = 0;        // first line: running number, from 1
+    std::wstring code = L"000";     // 3 places, zero-filled
+    std::int32_t rodKind = 0;       // 1 digit
+    std::wstring designation;       // 10 places from version 600, 3 below
+    std::int32_t firstSize = 0;     // 5 digits
+    std::int32_t secondSize = 0;    // 3 digits
+    std::int32_t thirdSize = 0;     // 5 digits
+    Point2d position;               // x and y, each a sign and 5 digits
+    std::int32_t positionZ = 0;     // sign and 5 digits
+    std::int32_t rotation = 0;      // sign and 3 digits
+    std::wstring extraDesignation;  // 10 places, padded in front
+    bool mountFlag = false;         // last on the first line
+    std::int32_t auxFirst = 0;      // second line: 3 digits
+    std::int32_t auxSecond = 0;     // 3 digits
+    std::int32_t auxThird = 0;      // 3 digits
+    std::int32_t auxFourth = 0;     // 5 digits
+    std::int32_t auxFifth = 0;      // 5 digits
+    std::int32_t auxSixth = 0;      // 5 digits
+    bool hasWeldingPoints = false;  // digit, then right behind it
+    bool hasSpacers = false;        // digit, then right behind it
+    wchar_t bendingKind = L'0';     // last on the second line: '1' two forms, '2' free form
+    BendingForm firstForm;          // bending line, kind '1'
+    BendingForm secondForm;         // bending line, kind '1'
+    std::int32_t formAngle = 0;     // end of the bending line, sign and 3 digits
+    BendingFormFree freeForm;       // behind the second line, kind '2'
+    SpacerData spacers;             // behind the bending data, when `hasSpacers`
+    WeldingPointData weldingPoints; // last, when `hasWeldingPoints`
 };
 
 // The record "RODSTOCK": the loose bars of an element or the bars of a mat.
@@ -75,8 +73,8 @@ public:
     // `bar`.
     void appendRodstock(Rodstock& bar);
 
-    std::int16_t version = 502;  // second line; handed on to every bar
-    std::vector<Rodstock> bars;  // count on the third line, then each bar
+    std::int16_t version = 502; // second line; handed on to every bar
+    std::vector<Rodstock> bars; // count on the third line, then each bar
 };
 
 } // namespace ItUnitechnik

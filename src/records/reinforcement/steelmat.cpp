@@ -6,7 +6,11 @@
 
 namespace ItUnitechnik {
 
-Steelmat::Steelmat() : ItCollectionImpl<RodstockData>([](auto& self) -> auto& { return static_cast<Steelmat&>(self).rodstocks; }), ItCollectionImpl<BracedGirderData>([](auto& self) -> auto& { return static_cast<Steelmat&>(self).girders; }) {}
+Steelmat::Steelmat()
+    : ItCollectionImpl<RodstockData>([](auto& self) -> auto& { return static_cast<Steelmat&>(self).rodstocks; }),
+      ItCollectionImpl<BracedGirderData>([](auto& self) -> auto& { return static_cast<Steelmat&>(self).girders; })
+{
+}
 
 bool Steelmat::Write(Archive& ar)
 {

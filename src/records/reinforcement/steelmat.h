@@ -12,9 +12,7 @@ namespace ItUnitechnik {
 
 // One reinforcement mat, the record from "STEELMAT" to "END STEELMAT" inside a
 // reinforcement block; it owns the bars and girders of the mat.
-class Steelmat : public Serializable,
-                 public ItCollectionImpl<RodstockData>,
-                 public ItCollectionImpl<BracedGirderData> {
+class Steelmat : public Serializable, public ItCollectionImpl<RodstockData>, public ItCollectionImpl<BracedGirderData> {
 public:
     Steelmat();
 

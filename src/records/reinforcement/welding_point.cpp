@@ -76,7 +76,8 @@ bool WeldingPointData::Read(Archive& ar)
     ar >> weldFlag;
     std::int32_t count = 0;
     ar >> count;
-    ReadElements(ar, count, [&] { return WeldingPoint(); }, points);
+    ReadElements(
+        ar, count, [&] { return WeldingPoint(); }, points);
     return Healthy(ar);
 }
 

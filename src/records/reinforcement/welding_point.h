@@ -38,16 +38,19 @@ class WeldingPointData : public Serializable, public ItCollectionImpl<std::vecto
 public:
     // The head values get no value from the file's owner; a list that was
     // never read writes zeros and the letter '0'.
-    WeldingPointData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<WeldingPointData&>(self).points; }) {}
+    WeldingPointData()
+        : ItCollectionImpl([](auto& self) -> auto& { return static_cast<WeldingPointData&>(self).points; })
+    {
+    }
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;
 
-    std::int32_t weldValueA = 0;  // head line, 3 digits
-    std::int32_t weldValueB = 0;  // 3 digits
-    std::int32_t weldValueC = 0;  // 3 digits
-    wchar_t weldLetter = L'0';    // one character, no blank behind it
-    bool weldFlag = false;        // one digit, the count right behind it
+    std::int32_t weldValueA = 0;      // head line, 3 digits
+    std::int32_t weldValueB = 0;      // 3 digits
+    std::int32_t weldValueC = 0;      // 3 digits
+    wchar_t weldLetter = L'0';        // one character, no blank behind it
+    bool weldFlag = false;            // one digit, the count right behind it
     std::vector<WeldingPoint> points; // one line each, behind the head line
 };
 

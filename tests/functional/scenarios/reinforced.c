@@ -38,8 +38,7 @@ static void start(unsigned short version)
 {
     const double placement[9] = {2.5, -2.5, 2.4, 6000, 0, 0, 0, 2400, 0};
     it_char16 text[SCENARIO_TEXT_MAX];
-    scenario_expect(startOrder(4, 101, placement, version, scenario_text("Slab", text), 1.25, true) == 1,
-                    "startOrder");
+    scenario_expect(startOrder(4, 101, placement, version, scenario_text("Slab", text), 1.25, true) == 1, "startOrder");
 }
 
 static void build_reinforcement(void)
@@ -62,10 +61,8 @@ static void build_reinforcement(void)
     scenario_expect(addCFSRodstock(1, scenario_text("B500B", text), 2300, 10, 0, firstBar, 40, 90,
                                    scenario_text("U1", extra), 1, 2, 3, 4, 110) == -1,
                     "bar before any mat");
-    scenario_expect(addSteelmat(scenario_text("Q188A", text), 2350, 5900, 1, 0, 65537, firstMat) == 1,
-                    "first mat");
-    scenario_expect(addSteelmat(scenario_text("Q257 upper layer mat XL", text), 2350, 5900, 0, 3, 2,
-                                secondMat) == 2,
+    scenario_expect(addSteelmat(scenario_text("Q188A", text), 2350, 5900, 1, 0, 65537, firstMat) == 1, "first mat");
+    scenario_expect(addSteelmat(scenario_text("Q257 upper layer mat XL", text), 2350, 5900, 0, 3, 2, secondMat) == 2,
                     "second mat");
     /* Both bars join the second mat, numbered from 1 there. */
     scenario_expect(addCFSRodstock(1, scenario_text("B500B", text), 2300, 10, 0, firstBar, 40, 90,

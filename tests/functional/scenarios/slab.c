@@ -15,17 +15,17 @@ static void build_slab(unsigned short version)
         "Block C",
         "Level 2",
         "Slab S-14",
-        "Hartmann Bau GmbH",        /* first address */
+        "Hartmann Bau GmbH", /* first address */
         "Industriestrasse 12",
         "70565",
         "Stuttgart",
-        "Precast Works Nord",       /* second address */
+        "Precast Works Nord", /* second address */
         "Hafenweg 3",
         "20457",
         "Hamburg",
-        "21.11.2026",               /* date */
-        "R1",                       /* orderText2 */
-        "Slab with two openings and two sockets"  /* orderText40 */
+        "21.11.2026",                            /* date */
+        "R1",                                    /* orderText2 */
+        "Slab with two openings and two sockets" /* orderText40 */
     };
     static it_char16 buffers[IT_PROJECT_TEXT_COUNT][SCENARIO_TEXT_MAX];
     const it_char16* texts[IT_PROJECT_TEXT_COUNT];
@@ -43,8 +43,7 @@ static void build_slab(unsigned short version)
     ItCutoutBlock block;
     size_t i;
 
-    scenario_expect(startOrder(5, 17, placement, version, scenario_text("Slab A", text), 2.4, true) == 1,
-                    "startOrder");
+    scenario_expect(startOrder(5, 17, placement, version, scenario_text("Slab A", text), 2.4, true) == 1, "startOrder");
 
     for (i = 0; i < IT_PROJECT_TEXT_COUNT; ++i) {
         texts[i] = scenario_text(projectTexts[i], buffers[i]);
@@ -87,7 +86,6 @@ int main(int argc, char** argv)
     scenario_expect(endDocument(scenario_path(argv[1], "slab-600.txt", path)) == 1, "endDocument 600");
     /* The same calls give the same bytes: the whole slab built again. */
     build_slab(600);
-    scenario_expect(endDocument(scenario_path(argv[1], "slab-600-again.txt", path)) == 1,
-                    "endDocument 600 again");
+    scenario_expect(endDocument(scenario_path(argv[1], "slab-600-again.txt", path)) == 1, "endDocument 600 again");
     return 0;
 }

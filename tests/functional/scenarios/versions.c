@@ -17,8 +17,7 @@ int main(int argc, char** argv)
     for (i = 0; i < sizeof versions / sizeof versions[0]; ++i) {
         char name[64];
         snprintf(name, sizeof name, "v%u.txt", (unsigned)versions[i]);
-        scenario_expect(startOrder(4, 101, placement, versions[i], scenario_text("Slab", text), 1.25,
-                                   true) == 1,
+        scenario_expect(startOrder(4, 101, placement, versions[i], scenario_text("Slab", text), 1.25, true) == 1,
                         "startOrder");
         scenario_expect(endDocument(scenario_path(argv[1], name, path)) == 1, "endDocument");
     }

@@ -20,10 +20,10 @@ namespace ItUnitechnik {
 namespace {
 
 using Testing::Blanks;
-using Testing::Lines;
-using Testing::StringArchive;
 using Testing::Joined;
 using Testing::JoinLines;
+using Testing::Lines;
+using Testing::StringArchive;
 
 ElementPart AtVersion(std::int16_t version)
 {
@@ -49,8 +49,7 @@ const std::wstring lineC = L"00000 00000 +0000 +0000 +0000 +0000 0 00000 0 00000
 const std::wstring edgeLine = L"00000 00000 00000 00000 00000 00000 00000 00000";
 const std::wstring lineD = Blanks(8) + L" " + Blanks(4) + L" 0000 0000 00 " + Blanks(30);
 const std::wstring lineE = L"000000 000000 000000 000000 000000 000000 000000 000000 000000";
-const std::wstring lineE600 =
-    L"+000000 +000000 +000000 +000000 +000000 +000000 +000000 +000000 +000000";
+const std::wstring lineE600 = L"+000000 +000000 +000000 +000000 +000000 +000000 +000000 +000000 +000000";
 const std::wstring lineA600 = Blanks(15) + L" 0 00 00 00 000 00000 000 000 00 00 " + Blanks(40);
 const std::wstring lineF = L"+00000 +00000 +00000 000";
 
@@ -59,9 +58,8 @@ const std::wstring lineF = L"+00000 +00000 +00000 000";
 // own default version, 502.
 std::vector<std::wstring> Nested(bool below600)
 {
-    std::vector<std::wstring> lines = {
-        L"CONTOUR_", L"502", L"00", L"END", L"CUTOUT__", L"502", L"00", L"END",
-        L"MOUNPART", L"502", L"000", L"END"};
+    std::vector<std::wstring> lines = {L"CONTOUR_", L"502", L"00",       L"END", L"CUTOUT__", L"502",
+                                       L"00",       L"END", L"MOUNPART", L"502", L"000",      L"END"};
     if (below600) {
         for (const wchar_t* line : {L"RODSTOCK", L"502", L"000", L"END", L"BRGIRDER", L"502", L"000", L"END"}) {
             lines.push_back(line);
@@ -81,8 +79,8 @@ std::vector<std::wstring> Record(std::vector<std::wstring> own, bool below600)
 
 TEST(ElementPartWrite, DefaultBelow501HasTheShortLinesAndNoLayerLines)
 {
-    const std::vector<std::wstring> expected = Record(
-        {L"SLABDATE", L"499", shortLineA, shortLineB, lineC, edgeLine, lineD, lineE, L"END"}, true);
+    const std::vector<std::wstring> expected =
+        Record({L"SLABDATE", L"499", shortLineA, shortLineB, lineC, edgeLine, lineD, lineE, L"END"}, true);
     EXPECT_EQ(Written(AtVersion(499)), expected);
     std::vector<std::wstring> at0 = expected;
     at0[1] = L"000";
@@ -94,24 +92,22 @@ TEST(ElementPartWrite, DefaultBelow501HasTheShortLinesAndNoLayerLines)
 
 TEST(ElementPartWrite, VersionFiveHasTheLongLinesButNoConcreteLines)
 {
-    const std::vector<std::wstring> expected = Record(
-        {L"SLABDATE", L"005", longLineA, longLineB, lineC, edgeLine, lineD, lineE, L"END"}, true);
+    const std::vector<std::wstring> expected =
+        Record({L"SLABDATE", L"005", longLineA, longLineB, lineC, edgeLine, lineD, lineE, L"END"}, true);
     EXPECT_EQ(Written(AtVersion(5)), expected);
 }
 
 TEST(ElementPartWrite, Version501)
 {
-    const std::vector<std::wstring> expected = Record(
-        {L"SLABDATE", L"501", longLineA, longLineB, lineC, edgeLine, lineD, lineE, L"END"}, true);
+    const std::vector<std::wstring> expected =
+        Record({L"SLABDATE", L"501", longLineA, longLineB, lineC, edgeLine, lineD, lineE, L"END"}, true);
     EXPECT_EQ(Written(AtVersion(501)), expected);
 }
 
 TEST(ElementPartWrite, Version502HasPlastersConcreteCountAndEdges)
 {
     const std::vector<std::wstring> expected = Record(
-        {L"SLABDATE", L"502", longLineA, longLineB, plasterLine, L"00", lineC, edgeLine, lineD,
-         lineE, L"END"},
-        true);
+        {L"SLABDATE", L"502", longLineA, longLineB, plasterLine, L"00", lineC, edgeLine, lineD, lineE, L"END"}, true);
     EXPECT_EQ(Written(AtVersion(502)), expected);
 }
 
@@ -119,9 +115,7 @@ TEST(ElementPartWrite, Versions503To599HaveNeitherPlastersNorEdges)
 {
     for (std::int16_t version : {std::int16_t{503}, std::int16_t{599}}) {
         const std::vector<std::wstring> expected = Record(
-            {L"SLABDATE", std::to_wstring(version), longLineA, longLineB, L"00", lineC, lineD, lineE,
-             L"END"},
-            true);
+            {L"SLABDATE", std::to_wstring(version), longLineA, longLineB, L"00", lineC, lineD, lineE, L"END"}, true);
         EXPECT_EQ(Written(AtVersion(version)), expected) << version;
     }
 }
@@ -129,10 +123,10 @@ TEST(ElementPartWrite, Versions503To599HaveNeitherPlastersNorEdges)
 TEST(ElementPartWrite, From600TheNumberIsTextAndLinesFAndGFollow)
 {
     for (std::int16_t version : {std::int16_t{600}, std::int16_t{601}}) {
-        const std::vector<std::wstring> expected = Record(
-            {L"SLABDATE", std::to_wstring(version), lineA600, longLineB, L"00", lineC, lineD,
-             lineE600, lineF, Blanks(20), Blanks(20), Blanks(20), Blanks(20), L"END"},
-            false);
+        const std::vector<std::wstring> expected =
+            Record({L"SLABDATE", std::to_wstring(version), lineA600, longLineB, L"00", lineC, lineD, lineE600, lineF,
+                    Blanks(20), Blanks(20), Blanks(20), Blanks(20), L"END"},
+                   false);
         EXPECT_EQ(Written(AtVersion(version)), expected) << version;
     }
 }
@@ -148,8 +142,8 @@ TEST(ElementPartWrite, ShortCodesArePaddedBehindFrom600)
     element.version = 600;
     element.elementNumberText = L"E-7";
     element.textA40 = L"forty";
-    EXPECT_EQ(Written(element)[2], L"E-7" + Blanks(12) + L" 0 A0 00 00 123 00000 000 000 00 00 "
-                                       + Blanks(35) + L"forty");
+    EXPECT_EQ(Written(element)[2],
+              L"E-7" + Blanks(12) + L" 0 A0 00 00 123 00000 000 000 00 00 " + Blanks(35) + L"forty");
 }
 
 TEST(ElementPartWrite, FilledLines)
@@ -412,8 +406,8 @@ TEST(ElementPartRead, ReadsBackAt600)
 
 TEST(ElementPartRead, TheNumberComesFromTheTextFrom600)
 {
-    for (const auto& [text, number] : std::vector<std::pair<std::wstring, int>>{
-             {L"12A", 12}, {L"X9", 0}, {L"70000", 4464}, {L"-5", -5}}) {
+    for (const auto& [text, number] :
+         std::vector<std::pair<std::wstring, int>>{{L"12A", 12}, {L"X9", 0}, {L"70000", 4464}, {L"-5", -5}}) {
         ElementPart element = Filled(600);
         element.elementNumberText = text;
         const ElementPart read = ReadBack(element);
@@ -777,32 +771,59 @@ namespace ItUnitechnik {
 namespace {
 
 using Testing::Blanks;
-using Testing::Lines;
-using Testing::StringArchive;
 using Testing::Joined;
 using Testing::JoinLines;
+using Testing::Lines;
+using Testing::StringArchive;
 
 // A default element's own lines at 502, up to its "END".
 std::vector<std::wstring> OwnLines502(const std::wstring& extents = L"00000 00000")
 {
     return {L"SLABDATE", L"502", longLineA, longLineB, plasterLine, L"00", extents + lineC.substr(11),
-            edgeLine, lineD, lineE, L"END"};
+            edgeLine,    lineD,  lineE,     L"END"};
 }
 
 // An empty layer as written: its block has no irons of its own.
 std::vector<std::wstring> EmptyLayerLines(const std::wstring& dataLine = L"0 000000 000000 000000 00")
 {
-    return {L"LAYER___", L"502", dataLine, L"END", L"MOUNPART", L"502", L"000", L"END", L"REFORCEM", L"502",
-            Blanks(10) + L" " + Blanks(4) + L" " + Blanks(8) + L" 0", L"END", L"END REFORCEM", L"END LAYER___"};
+    return {L"LAYER___",
+            L"502",
+            dataLine,
+            L"END",
+            L"MOUNPART",
+            L"502",
+            L"000",
+            L"END",
+            L"REFORCEM",
+            L"502",
+            Blanks(10) + L" " + Blanks(4) + L" " + Blanks(8) + L" 0",
+            L"END",
+            L"END REFORCEM",
+            L"END LAYER___"};
 }
 
 // A layer as a file has it when it reads: the block carries an empty list of
 // irons.
 std::vector<std::wstring> ReadableLayerLines(const std::wstring& dataLine)
 {
-    return {L"LAYER___", L"502", dataLine, L"END", L"MOUNPART", L"502", L"000", L"END", L"REFORCEM", L"502",
-            Blanks(10) + L" " + Blanks(4) + L" " + Blanks(8) + L" 0", L"END", L"EXTIRON_", L"502", L"000",
-            L"END", L"END REFORCEM", L"END LAYER___"};
+    return {L"LAYER___",
+            L"502",
+            dataLine,
+            L"END",
+            L"MOUNPART",
+            L"502",
+            L"000",
+            L"END",
+            L"REFORCEM",
+            L"502",
+            Blanks(10) + L" " + Blanks(4) + L" " + Blanks(8) + L" 0",
+            L"END",
+            L"EXTIRON_",
+            L"502",
+            L"000",
+            L"END",
+            L"END REFORCEM",
+            L"END LAYER___"};
 }
 
 Contour Square(std::int32_t side)
@@ -843,9 +864,9 @@ TEST(ElementPartLayers, WithALayerNoReinforcementRecordIsWrittenEither)
         StringArchive s;
         EXPECT_TRUE(element.Write(s.archive));
         const std::vector<std::wstring> lines = Lines(s.Text());
-        const std::vector<std::wstring> layers = Joined(
-            Joined(EmptyLayerLines(L"1 000000 000000 000000 00"), EmptyLayerLines(L"2 000000 000000 000000 00")),
-            {L"END SLABDATE"});
+        const std::vector<std::wstring> layers =
+            Joined(Joined(EmptyLayerLines(L"1 000000 000000 000000 00"), EmptyLayerLines(L"2 000000 000000 000000 00")),
+                   {L"END SLABDATE"});
         ASSERT_GT(lines.size(), layers.size());
         EXPECT_EQ(lines[lines.size() - layers.size() - 1], L"END") << version;
         EXPECT_EQ(std::vector<std::wstring>(lines.end() - static_cast<std::ptrdiff_t>(layers.size()), lines.end()),
@@ -914,12 +935,14 @@ TEST(ElementPartLayers, ALayerThatFailsEndsTheLayersAndTheClosingTagFails)
     // tag.
     std::vector<std::wstring> broken = ReadableLayerLines(L"2 000000 000000 000000 02");
     const std::vector<std::wstring> lot = {
-        L"LOT_____", L"502", L"00 " + Blanks(8) + L" 0.000    00.000 000000 000000 000000 000", L"END",
-        L"CONTOUR_", L"502", L"00", L"END", L"CUTOUT__", L"502", L"00", L"END", L"END LOT_____"};
+        L"LOT_____",    L"502",      L"00 " + Blanks(8) + L" 0.000    00.000 000000 000000 000000 000",
+        L"END",         L"CONTOUR_", L"502",
+        L"00",          L"END",      L"CUTOUT__",
+        L"502",         L"00",       L"END",
+        L"END LOT_____"};
     broken.insert(broken.begin() + 4, lot.begin(), lot.end());
     const std::vector<std::wstring> lines = Joined(
-        Joined(Joined(OwnLines502(), ReadableLayerLines(L"1 000000 000000 000000 00")), broken),
-        {L"END SLABDATE"});
+        Joined(Joined(OwnLines502(), ReadableLayerLines(L"1 000000 000000 000000 00")), broken), {L"END SLABDATE"});
     StringArchive s(JoinLines(lines));
     ElementPart element;
     EXPECT_FALSE(element.Read(s.archive));
@@ -931,11 +954,12 @@ TEST(ElementPartLayers, ALayerThatFailsEndsTheLayersAndTheClosingTagFails)
 
 TEST(ElementPartLayers, WithoutALayerTheOutlineIsReadAsBefore)
 {
-    const std::vector<std::wstring> lines = Joined(
-        OwnLines502(),
-        {L"CONTOUR_", L"502", L"01", L"01 00 01", L"S 00000 00000 00100 00200 0000", L"END", L"CUTOUT__",
-         L"502", L"00", L"END", L"MOUNPART", L"502", L"000", L"END", L"RODSTOCK", L"502", L"000", L"END",
-         L"BRGIRDER", L"502", L"000", L"END", L"END SLABDATE"});
+    const std::vector<std::wstring> lines =
+        Joined(OwnLines502(), {L"CONTOUR_", L"502",      L"01",          L"01 00 01", L"S 00000 00000 00100 00200 0000",
+                               L"END",      L"CUTOUT__", L"502",         L"00",       L"END",
+                               L"MOUNPART", L"502",      L"000",         L"END",      L"RODSTOCK",
+                               L"502",      L"000",      L"END",         L"BRGIRDER", L"502",
+                               L"000",      L"END",      L"END SLABDATE"});
     StringArchive s(JoinLines(lines));
     ElementPart element;
     EXPECT_TRUE(element.Read(s.archive));
@@ -980,33 +1004,22 @@ namespace ItUnitechnik {
 namespace {
 
 using Testing::Blanks;
-using Testing::StringArchive;
 using Testing::Joined;
 using Testing::JoinLines;
+using Testing::StringArchive;
 
 TEST(ElementPartReadFile, Version600)
 {
-    StringArchive s(JoinLines({
-        L"SLABDATE",
-        L"600",
-        L"E-7" + Blanks(12) + L" 1 A0 01 123 007 00004 000 000 06 00 " + Blanks(35) + L"forty",
-        L"02.500 000 00       B8 0.250 00012.5 0200 060 007 000 000 000 0150",
-        L"00",
-        L"06000 02400 -0005 +0000 +0000 +0000 1 00000 0 00000 000010 000020 +03 -04",
-        L"      D8   D4 0012 0000 09 " + Blanks(20) + L"Floor slab",
-        L"+000001 -000002 +000003 +006000 +000000 +000000 +000000 +002400 +000000",
-        L"-00001 +00002 +00003 042",
-        Blanks(16) + L"info",
-        Blanks(20),
-        Blanks(20),
-        L"01234567890123456789",
-        L"END",
-        // No openings, parts, bars, girders or mats: from 600 each may be
-        // missing. The irons are there.
-        L"CONTOUR_", L"600", L"00", L"END",
-        L"EXTIRON_", L"600", L"000", L"END",
-        L"END SLABDATE",
-        L"NEXT"}));
+    StringArchive s(JoinLines(
+        {L"SLABDATE", L"600", L"E-7" + Blanks(12) + L" 1 A0 01 123 007 00004 000 000 06 00 " + Blanks(35) + L"forty",
+         L"02.500 000 00       B8 0.250 00012.5 0200 060 007 000 000 000 0150", L"00",
+         L"06000 02400 -0005 +0000 +0000 +0000 1 00000 0 00000 000010 000020 +03 -04",
+         L"      D8   D4 0012 0000 09 " + Blanks(20) + L"Floor slab",
+         L"+000001 -000002 +000003 +006000 +000000 +000000 +000000 +002400 +000000", L"-00001 +00002 +00003 042",
+         Blanks(16) + L"info", Blanks(20), Blanks(20), L"01234567890123456789", L"END",
+         // No openings, parts, bars, girders or mats: from 600 each may be
+         // missing. The irons are there.
+         L"CONTOUR_", L"600", L"00", L"END", L"EXTIRON_", L"600", L"000", L"END", L"END SLABDATE", L"NEXT"}));
     ElementPart element;
     EXPECT_TRUE(element.Read(s.archive));
     EXPECT_TRUE(Healthy(s.archive));
@@ -1064,25 +1077,39 @@ TEST(ElementPartReadFile, Version600)
 
 TEST(ElementPartReadFile, Version502WithPlastersAConcreteLayerAndTheOptionalPair)
 {
-    StringArchive s(JoinLines({
-        L"SLABDATE",
-        L"502",
-        L"034 1 22 00 05 333 000 000 007 00 08 4444",
-        L"01.250 111 22 textB8xx 0.500 00003.5 0200 030 333 444 000 009 0180",
-        L"012 Kalk     1.250 00030.5 000          0.000 00000.0",
-        L"01",
-        L"03 01 1000 C30" + Blanks(5) + L" 1.500 02400.0",
-        L"06000 02400 +0000 -0003 +0000 +0000 0 00011 0 00000 000010 000020 +01 -02 003 004",
-        L"00001 00002 00003 00004 00005 00006 00007 00008",
-        L"abcdefgh wxyz 0012 0000 05 " + Blanks(20) + L"Floor slab",
-        L"000001 000002 000003 006000 000000 000000 000000 002400 000000",
-        L"END",
-        L"CONTOUR_", L"502", L"00", L"END",
-        L"CUTOUT__", L"502", L"00", L"END",
-        L"MOUNPART", L"502", L"000", L"END",
-        L"RODSTOCK", L"502", L"000", L"END",
-        L"BRGIRDER", L"502", L"000", L"END",
-        L"END SLABDATE"}));
+    StringArchive s(JoinLines({L"SLABDATE",
+                               L"502",
+                               L"034 1 22 00 05 333 000 000 007 00 08 4444",
+                               L"01.250 111 22 textB8xx 0.500 00003.5 0200 030 333 444 000 009 0180",
+                               L"012 Kalk     1.250 00030.5 000          0.000 00000.0",
+                               L"01",
+                               L"03 01 1000 C30" + Blanks(5) + L" 1.500 02400.0",
+                               L"06000 02400 +0000 -0003 +0000 +0000 0 00011 0 00000 000010 000020 +01 -02 003 004",
+                               L"00001 00002 00003 00004 00005 00006 00007 00008",
+                               L"abcdefgh wxyz 0012 0000 05 " + Blanks(20) + L"Floor slab",
+                               L"000001 000002 000003 006000 000000 000000 000000 002400 000000",
+                               L"END",
+                               L"CONTOUR_",
+                               L"502",
+                               L"00",
+                               L"END",
+                               L"CUTOUT__",
+                               L"502",
+                               L"00",
+                               L"END",
+                               L"MOUNPART",
+                               L"502",
+                               L"000",
+                               L"END",
+                               L"RODSTOCK",
+                               L"502",
+                               L"000",
+                               L"END",
+                               L"BRGIRDER",
+                               L"502",
+                               L"000",
+                               L"END",
+                               L"END SLABDATE"}));
     ElementPart element;
     EXPECT_TRUE(element.Read(s.archive));
     EXPECT_EQ(element.version, 502);
@@ -1126,23 +1153,40 @@ TEST(ElementPartReadFile, Version502WithPlastersAConcreteLayerAndTheOptionalPair
 
 TEST(ElementPartReadFile, Version499HasTheShortLinesAndNoPlasterOrConcreteLines)
 {
-    StringArchive s(JoinLines({
-        L"SLABDATE",
-        L"499",
-        L"034 1 22 00 05 333 000 000 007",
-        L"01.250 111 22 textB8xx 0.500 00003.5 0200 030 333 444 000 009",
-        L"06000 02400 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00",
-        L"00000 00000 00000 00000 00000 00000 00000 00000",
-        Blanks(8) + L" " + Blanks(4) + L" 0000 0000 00 " + Blanks(30),
-        L"000000 000000 000000 000000 000000 000000 000000 000000 000000",
-        L"END",
-        L"CONTOUR_", L"499", L"00", L"END",
-        L"CUTOUT__", L"499", L"00", L"END",
-        L"MOUNPART", L"499", L"00", L"END",
-        L"RODSTOCK", L"499", L"000", L"END",
-        L"BRGIRDER", L"499", L"000", L"END",
-        L"EXTIRON_", L"499", L"000", L"END",
-        L"END SLABDATE"}));
+    StringArchive s(JoinLines({L"SLABDATE",
+                               L"499",
+                               L"034 1 22 00 05 333 000 000 007",
+                               L"01.250 111 22 textB8xx 0.500 00003.5 0200 030 333 444 000 009",
+                               L"06000 02400 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00",
+                               L"00000 00000 00000 00000 00000 00000 00000 00000",
+                               Blanks(8) + L" " + Blanks(4) + L" 0000 0000 00 " + Blanks(30),
+                               L"000000 000000 000000 000000 000000 000000 000000 000000 000000",
+                               L"END",
+                               L"CONTOUR_",
+                               L"499",
+                               L"00",
+                               L"END",
+                               L"CUTOUT__",
+                               L"499",
+                               L"00",
+                               L"END",
+                               L"MOUNPART",
+                               L"499",
+                               L"00",
+                               L"END",
+                               L"RODSTOCK",
+                               L"499",
+                               L"000",
+                               L"END",
+                               L"BRGIRDER",
+                               L"499",
+                               L"000",
+                               L"END",
+                               L"EXTIRON_",
+                               L"499",
+                               L"000",
+                               L"END",
+                               L"END SLABDATE"}));
     ElementPart element;
     EXPECT_TRUE(element.Read(s.archive));
     EXPECT_EQ(element.version, 499);
@@ -1162,22 +1206,36 @@ TEST(ElementPartReadFile, Version499HasTheShortLinesAndNoPlasterOrConcreteLines)
 
 TEST(ElementPartReadFile, VersionFiveHasTheLongLinesButNoConcreteLines)
 {
-    StringArchive s(JoinLines({
-        L"SLABDATE",
-        L"005",
-        L"012 0 00 00 00 000 000 000 000 01 02 ABCD",
-        L"00.000 000 00          0.000 00000.0 0000 000 000 000 000 000 0250",
-        L"00000 00000 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00",
-        L"00000 00000 00000 00000 00000 00000 00000 00000",
-        Blanks(8) + L" " + Blanks(4) + L" 0000 0000 00 " + Blanks(30),
-        L"000000 000000 000000 000000 000000 000000 000000 000000 000000",
-        L"END",
-        L"CONTOUR_", L"502", L"00", L"END",
-        L"CUTOUT__", L"502", L"00", L"END",
-        L"MOUNPART", L"502", L"000", L"END",
-        L"RODSTOCK", L"502", L"000", L"END",
-        L"BRGIRDER", L"502", L"000", L"END",
-        L"END SLABDATE"}));
+    StringArchive s(JoinLines({L"SLABDATE",
+                               L"005",
+                               L"012 0 00 00 00 000 000 000 000 01 02 ABCD",
+                               L"00.000 000 00          0.000 00000.0 0000 000 000 000 000 000 0250",
+                               L"00000 00000 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00",
+                               L"00000 00000 00000 00000 00000 00000 00000 00000",
+                               Blanks(8) + L" " + Blanks(4) + L" 0000 0000 00 " + Blanks(30),
+                               L"000000 000000 000000 000000 000000 000000 000000 000000 000000",
+                               L"END",
+                               L"CONTOUR_",
+                               L"502",
+                               L"00",
+                               L"END",
+                               L"CUTOUT__",
+                               L"502",
+                               L"00",
+                               L"END",
+                               L"MOUNPART",
+                               L"502",
+                               L"000",
+                               L"END",
+                               L"RODSTOCK",
+                               L"502",
+                               L"000",
+                               L"END",
+                               L"BRGIRDER",
+                               L"502",
+                               L"000",
+                               L"END",
+                               L"END SLABDATE"}));
     ElementPart element;
     EXPECT_TRUE(element.Read(s.archive));
     EXPECT_EQ(element.version, 5);
@@ -1190,17 +1248,13 @@ TEST(ElementPartReadFile, VersionFiveHasTheLongLinesButNoConcreteLines)
 
 TEST(ElementPartReadFile, BelowVersion600AMissingListOfOpeningsFailsTheElement)
 {
-    StringArchive s(JoinLines({
-        L"SLABDATE", L"499", L"034 1 22 00 05 333 000 000 007",
-        L"01.250 111 22 textB8xx 0.500 00003.5 0200 030 333 444 000 009",
-        L"06000 02400 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00",
-        L"00000 00000 00000 00000 00000 00000 00000 00000",
-        Blanks(8) + L" " + Blanks(4) + L" 0000 0000 00 " + Blanks(30),
-        L"000000 000000 000000 000000 000000 000000 000000 000000 000000",
-        L"END",
-        L"CONTOUR_", L"499", L"00", L"END",
-        L"MOUNPART", L"499", L"00", L"END",
-        L"END SLABDATE"}));
+    StringArchive s(JoinLines({L"SLABDATE", L"499", L"034 1 22 00 05 333 000 000 007",
+                               L"01.250 111 22 textB8xx 0.500 00003.5 0200 030 333 444 000 009",
+                               L"06000 02400 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00",
+                               L"00000 00000 00000 00000 00000 00000 00000 00000",
+                               Blanks(8) + L" " + Blanks(4) + L" 0000 0000 00 " + Blanks(30),
+                               L"000000 000000 000000 000000 000000 000000 000000 000000 000000", L"END", L"CONTOUR_",
+                               L"499", L"00", L"END", L"MOUNPART", L"499", L"00", L"END", L"END SLABDATE"}));
     ElementPart element;
     EXPECT_FALSE(element.Read(s.archive));
     EXPECT_FALSE(s.archive.valid);
@@ -1208,12 +1262,10 @@ TEST(ElementPartReadFile, BelowVersion600AMissingListOfOpeningsFailsTheElement)
 
 TEST(ElementPartReadFile, AConcreteCountThatIsNoNumberFailsTheStream)
 {
-    StringArchive s(JoinLines({
-        L"SLABDATE", L"503", L"012 0 00 00 00 000 000 000 000 00 00 0000",
-        L"00.000 000 00          0.000 00000.0 0000 000 000 000 000 000 0000",
-        L"xx",
-        L"00000 00000 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00",
-        L"END", L"END SLABDATE"}));
+    StringArchive s(JoinLines({L"SLABDATE", L"503", L"012 0 00 00 00 000 000 000 000 00 00 0000",
+                               L"00.000 000 00          0.000 00000.0 0000 000 000 000 000 000 0000", L"xx",
+                               L"00000 00000 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00", L"END",
+                               L"END SLABDATE"}));
     ElementPart element;
     EXPECT_FALSE(element.Read(s.archive));
     EXPECT_TRUE(s.archive.fail());
@@ -1222,32 +1274,57 @@ TEST(ElementPartReadFile, AConcreteCountThatIsNoNumberFailsTheStream)
 
 TEST(OrderWithElement, ReadsAFileWrittenByHand)
 {
-    StringArchive s(JoinLines({
-        L"HEADER__",
-        L"502",
-        L"ORD-1" + Blanks(3) + L"   ABCDE WXYZ       R8 07 00 " + Blanks(40),
-        L"Tower A" + Blanks(13), Blanks(20), Blanks(20), Blanks(20),
-        L"Precast Works" + Blanks(12), Blanks(25), Blanks(8), Blanks(25),
-        Blanks(25), Blanks(25), Blanks(8), L"Site" + Blanks(21),
-        L"07.03.2024",
-        L"0 01 000",
-        L"END",
-        L"SLABDATE", L"502", L"012 0 00 00 00 000 000 000 000 00 00 0000",
-        L"00.000 000 00          0.000 00000.0 0000 000 000 000 000 000 0000",
-        L"000          0.000 00000.0 000          0.000 00000.0",
-        L"00",
-        L"00000 00000 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00",
-        L"00000 00000 00000 00000 00000 00000 00000 00000",
-        Blanks(8) + L" " + Blanks(4) + L" 0000 0000 00 " + Blanks(30),
-        L"000000 000000 000000 000000 000000 000000 000000 000000 000000",
-        L"END",
-        L"CONTOUR_", L"502", L"00", L"END",
-        L"CUTOUT__", L"502", L"00", L"END",
-        L"MOUNPART", L"502", L"000", L"END",
-        L"RODSTOCK", L"502", L"000", L"END",
-        L"BRGIRDER", L"502", L"000", L"END",
-        L"END SLABDATE",
-        L"END HEADER__"}));
+    StringArchive s(JoinLines({L"HEADER__",
+                               L"502",
+                               L"ORD-1" + Blanks(3) + L"   ABCDE WXYZ       R8 07 00 " + Blanks(40),
+                               L"Tower A" + Blanks(13),
+                               Blanks(20),
+                               Blanks(20),
+                               Blanks(20),
+                               L"Precast Works" + Blanks(12),
+                               Blanks(25),
+                               Blanks(8),
+                               Blanks(25),
+                               Blanks(25),
+                               Blanks(25),
+                               Blanks(8),
+                               L"Site" + Blanks(21),
+                               L"07.03.2024",
+                               L"0 01 000",
+                               L"END",
+                               L"SLABDATE",
+                               L"502",
+                               L"012 0 00 00 00 000 000 000 000 00 00 0000",
+                               L"00.000 000 00          0.000 00000.0 0000 000 000 000 000 000 0000",
+                               L"000          0.000 00000.0 000          0.000 00000.0",
+                               L"00",
+                               L"00000 00000 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00",
+                               L"00000 00000 00000 00000 00000 00000 00000 00000",
+                               Blanks(8) + L" " + Blanks(4) + L" 0000 0000 00 " + Blanks(30),
+                               L"000000 000000 000000 000000 000000 000000 000000 000000 000000",
+                               L"END",
+                               L"CONTOUR_",
+                               L"502",
+                               L"00",
+                               L"END",
+                               L"CUTOUT__",
+                               L"502",
+                               L"00",
+                               L"END",
+                               L"MOUNPART",
+                               L"502",
+                               L"000",
+                               L"END",
+                               L"RODSTOCK",
+                               L"502",
+                               L"000",
+                               L"END",
+                               L"BRGIRDER",
+                               L"502",
+                               L"000",
+                               L"END",
+                               L"END SLABDATE",
+                               L"END HEADER__"}));
     Order order;
     EXPECT_TRUE(order.Read(s.archive));
     EXPECT_EQ(order.version, 502);

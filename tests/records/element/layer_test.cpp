@@ -13,10 +13,10 @@ namespace ItUnitechnik {
 namespace {
 
 using Testing::Blanks;
-using Testing::Lines;
-using Testing::StringArchive;
 using Testing::Joined;
 using Testing::JoinLines;
+using Testing::Lines;
+using Testing::StringArchive;
 
 std::vector<std::wstring> Written(Layer layer)
 {
@@ -31,13 +31,15 @@ const std::wstring blockLine = Blanks(10) + L" " + Blanks(4) + L" " + Blanks(8) 
 
 // An empty lot at 502, as written.
 const std::vector<std::wstring> emptyLot = {
-    L"LOT_____", L"502", L"00 " + Blanks(8) + L" 0.000    00.000 000000 000000 000000 000", L"END",
-    L"CONTOUR_", L"502", L"00", L"END", L"CUTOUT__", L"502", L"00", L"END", L"END LOT_____"};
+    L"LOT_____",    L"502",      L"00 " + Blanks(8) + L" 0.000    00.000 000000 000000 000000 000",
+    L"END",         L"CONTOUR_", L"502",
+    L"00",          L"END",      L"CUTOUT__",
+    L"502",         L"00",       L"END",
+    L"END LOT_____"};
 
 // The parts list and the block of an empty layer, and its closing tag.
-const std::vector<std::wstring> emptyTail = {
-    L"MOUNPART", L"502", L"000", L"END", L"REFORCEM", L"502", blockLine, L"END", L"END REFORCEM",
-    L"END LAYER___"};
+const std::vector<std::wstring> emptyTail = {L"MOUNPART", L"502",    L"000", L"END",          L"REFORCEM",
+                                             L"502",      blockLine, L"END", L"END REFORCEM", L"END LAYER___"};
 
 // A layer's text as a file would have it: the block carries an empty list of
 // irons of its own, without which it does not read.
@@ -45,7 +47,7 @@ std::wstring LayerText(const std::wstring& dataLine, const std::vector<std::wstr
 {
     std::vector<std::wstring> lines = Joined({L"LAYER___", L"502", dataLine, L"END"}, lots);
     return JoinLines(Joined(lines, {L"MOUNPART", L"502", L"000", L"END", L"REFORCEM", L"502", blockLine, L"END",
-                               L"EXTIRON_", L"502", L"000", L"END", L"END REFORCEM", L"END LAYER___"}));
+                                    L"EXTIRON_", L"502", L"000", L"END", L"END REFORCEM", L"END LAYER___"}));
 }
 
 TEST(LayerWrite, EmptyLayerWritesItsFourLinesThenItsPartsAndBlock)
@@ -93,8 +95,7 @@ TEST(LayerWrite, TheLotsAreWrittenWhateverTheCountSays)
     std::vector<std::wstring> firstLot = emptyLot;
     firstLot[2] = L"01" + firstLot[2].substr(2);
     const std::vector<std::wstring> expected = Joined(
-        Joined(Joined({L"LAYER___", L"502", L"0 000000 000000 000000 00", L"END"}, firstLot), secondLot),
-        emptyTail);
+        Joined(Joined({L"LAYER___", L"502", L"0 000000 000000 000000 00", L"END"}, firstLot), secondLot), emptyTail);
     EXPECT_EQ(Written(layer), expected);
 }
 
@@ -105,10 +106,20 @@ TEST(LayerWrite, PartsAndBlockFollowTheLots)
     layer.reinforcement.version = 503;
     layer.reinforcement.matFlag = 1;
     const std::vector<std::wstring> lines = Written(layer);
-    const std::vector<std::wstring> expected = {
-        L"LAYER___", L"502", L"0 000000 000000 000000 00", L"END", L"MOUNPART", L"600", L"000", L"END",
-        L"REFORCEM", L"503", Blanks(10) + L" " + Blanks(4) + L" " + Blanks(8) + L" 1", L"END",
-        L"END REFORCEM", L"END LAYER___"};
+    const std::vector<std::wstring> expected = {L"LAYER___",
+                                                L"502",
+                                                L"0 000000 000000 000000 00",
+                                                L"END",
+                                                L"MOUNPART",
+                                                L"600",
+                                                L"000",
+                                                L"END",
+                                                L"REFORCEM",
+                                                L"503",
+                                                Blanks(10) + L" " + Blanks(4) + L" " + Blanks(8) + L" 1",
+                                                L"END",
+                                                L"END REFORCEM",
+                                                L"END LAYER___"};
     EXPECT_EQ(lines, expected);
 }
 

@@ -16,7 +16,13 @@ TEST(Plaster, DefaultPlaster)
     StringArchive s;
     Plaster plaster;
     EXPECT_TRUE(plaster.Write(s.archive));
-    EXPECT_EQ(s.Text(), L"000" L" " L"        " L" " L"0.000" L" " L"00000.0");
+    EXPECT_EQ(s.Text(), L"000"
+                        L" "
+                        L"        "
+                        L" "
+                        L"0.000"
+                        L" "
+                        L"00000.0");
 }
 
 TEST(Plaster, WritesItsFields)

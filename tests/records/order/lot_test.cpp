@@ -15,9 +15,9 @@ namespace ItUnitechnik {
 namespace {
 
 using Testing::Blanks;
+using Testing::Joined;
 using Testing::Lines;
 using Testing::StringArchive;
-using Testing::Joined;
 
 std::vector<std::wstring> Written(Lot lot)
 {
@@ -34,9 +34,9 @@ std::vector<std::wstring> EmptyOutlines(const std::wstring& version)
 
 TEST(LotWrite, DefaultLot)
 {
-    const std::vector<std::wstring> expected = Joined(
-        {L"LOT_____", L"502", L"00 " + Blanks(8) + L" 0.000    00.000 000000 000000 000000 000", L"END"},
-        EmptyOutlines(L"502"));
+    const std::vector<std::wstring> expected =
+        Joined({L"LOT_____", L"502", L"00 " + Blanks(8) + L" 0.000    00.000 000000 000000 000000 000", L"END"},
+               EmptyOutlines(L"502"));
     EXPECT_EQ(Written(Lot()), expected);
 }
 
@@ -56,10 +56,10 @@ TEST(LotWrite, From600TheTextIsTwentyWideAndTheLastTextFollows)
     lot.lotValue3 = 333;
     lot.lotValue4 = 4;
     lot.lotText20 = L"tail";
-    const std::vector<std::wstring> expected = Joined(
-        {L"LOT_____", L"600",
-         L"07 Lot A" + Blanks(15) + L" 1.500 X  -2.250 000001 000022 000333 004 tail" + Blanks(16), L"END"},
-        EmptyOutlines(L"600"));
+    const std::vector<std::wstring> expected =
+        Joined({L"LOT_____", L"600",
+                L"07 Lot A" + Blanks(15) + L" 1.500 X  -2.250 000001 000022 000333 004 tail" + Blanks(16), L"END"},
+               EmptyOutlines(L"600"));
     EXPECT_EQ(Written(lot), expected);
 }
 
@@ -88,8 +88,8 @@ TEST(LotWrite, OutlinesStandBetweenEndAndTheClosingTag)
     lot.Add(contour);
     const std::vector<std::wstring> lines = Written(lot);
     const std::vector<std::wstring> expected = {
-        L"END", L"CONTOUR_", L"600", L"01", L"01 00 01", L"S -00010 +00005 +00020 +00030 0000", L"END",
-        L"CUTOUT__", L"502", L"00", L"END", L"END LOT_____"};
+        L"END", L"CONTOUR_", L"600", L"01", L"01 00 01", L"S -00010 +00005 +00020 +00030 0000",
+        L"END", L"CUTOUT__", L"502", L"00", L"END",      L"END LOT_____"};
     ASSERT_EQ(lines.size(), 3 + expected.size());
     EXPECT_EQ(std::vector<std::wstring>(lines.begin() + 3, lines.end()), expected);
 }
@@ -135,7 +135,9 @@ TEST(LotCopy, CopiesWorkOnTheirOwnOutlines)
 TEST(LotRead, ReadsTheShortDataLineWithItsBlanks)
 {
     StringArchive s(L"LOT_____\n502\n"
-                    L"05 Name8" + Blanks(3) + L" 0.250 Q  12.500 000010 000020 000030 040\n"
+                    L"05 Name8" +
+                    Blanks(3) +
+                    L" 0.250 Q  12.500 000010 000020 000030 040\n"
                     L"END\nCONTOUR_\n502\n00\nEND\nCUTOUT__\n502\n00\nEND\nEND LOT_____\nNEXT\n");
     Lot lot;
     EXPECT_TRUE(lot.Read(s.archive));
@@ -158,7 +160,9 @@ TEST(LotRead, ReadsTheShortDataLineWithItsBlanks)
 TEST(LotRead, TheLastTextGainsALeadingBlankAndLosesItsLastOne)
 {
     StringArchive s(L"LOT_____\n600\n"
-                    L"07 Lot A" + Blanks(15) + L" 1.500 X  -2.250 000001 000022 000333 004 tail" + Blanks(16) + L"\n"
+                    L"07 Lot A" +
+                    Blanks(15) + L" 1.500 X  -2.250 000001 000022 000333 004 tail" + Blanks(16) +
+                    L"\n"
                     L"END\nCONTOUR_\n600\n00\nEND\nCUTOUT__\n600\n00\nEND\nEND LOT_____\n");
     Lot lot;
     EXPECT_TRUE(lot.Read(s.archive));
@@ -178,7 +182,9 @@ TEST(LotRead, TheLastTextGainsALeadingBlankAndLosesItsLastOne)
 TEST(LotRead, AFullLastTextLeavesItsLastCharacterAndTheLotFails)
 {
     StringArchive s(L"LOT_____\n600\n"
-                    L"07 Lot A" + Blanks(15) + L" 1.500 X  -2.250 000001 000022 000333 004 ABCDEFGHIJKLMNOPQRST\n"
+                    L"07 Lot A" +
+                    Blanks(15) +
+                    L" 1.500 X  -2.250 000001 000022 000333 004 ABCDEFGHIJKLMNOPQRST\n"
                     L"END\nCONTOUR_\n600\n00\nEND\nCUTOUT__\n600\n00\nEND\nEND LOT_____\n");
     Lot lot;
     EXPECT_FALSE(lot.Read(s.archive));
@@ -207,7 +213,9 @@ TEST(LotRead, AThreeDigitNumberIsReadWhole)
 TEST(LotRead, ACodeWithALeadingBlankKeepsIt)
 {
     StringArchive s(L"LOT_____\n502\n"
-                    L"01 abc" + Blanks(5) + L" 0.000  B 00.000 000000 000000 000000 000\n"
+                    L"01 abc" +
+                    Blanks(5) +
+                    L" 0.000  B 00.000 000000 000000 000000 000\n"
                     L"END\nCONTOUR_\n502\n00\nEND\nCUTOUT__\n502\n00\nEND\nEND LOT_____\n");
     Lot lot;
     EXPECT_TRUE(lot.Read(s.archive));
@@ -218,10 +226,14 @@ TEST(LotRead, ACodeWithALeadingBlankKeepsIt)
 TEST(LotRead, ReadsItsOutlines)
 {
     StringArchive s(L"LOT_____\n600\n"
-                    L"01 " + Blanks(20) + L" 0.000    00.000 000000 000000 000000 000 " + Blanks(20) + L"\n"
+                    L"01 " +
+                    Blanks(20) + L" 0.000    00.000 000000 000000 000000 000 " + Blanks(20) +
+                    L"\n"
                     L"END\n"
                     L"CONTOUR_\n600\n01\n01 00 01\nS -00010 +00005 +00020 +00030 0000\nEND\n"
-                    L"CUTOUT__\n600\n01\n01 00.000 " + Blanks(40) + L" 01\nK +00100 +00200 00050 0000\nEND\n"
+                    L"CUTOUT__\n600\n01\n01 00.000 " +
+                    Blanks(40) +
+                    L" 01\nK +00100 +00200 00050 0000\nEND\n"
                     L"END LOT_____\n");
     Lot lot;
     EXPECT_TRUE(lot.Read(s.archive));
@@ -252,7 +264,9 @@ TEST(LotRead, AWrongStartTagClearsValidAndReadsNoFurther)
 TEST(LotRead, AWrongEndClearsValid)
 {
     StringArchive s(L"LOT_____\n502\n"
-                    L"00 " + Blanks(8) + L" 0.000    00.000 000000 000000 000000 000\n"
+                    L"00 " +
+                    Blanks(8) +
+                    L" 0.000    00.000 000000 000000 000000 000\n"
                     L"ENDE\nCONTOUR_\n502\n00\nEND\nCUTOUT__\n502\n00\nEND\nEND LOT_____\n");
     Lot lot;
     EXPECT_FALSE(lot.Read(s.archive));
@@ -262,7 +276,9 @@ TEST(LotRead, AWrongEndClearsValid)
 TEST(LotRead, AClosingLineWithATrailingBlankClearsValid)
 {
     StringArchive s(L"LOT_____\n502\n"
-                    L"00 " + Blanks(8) + L" 0.000    00.000 000000 000000 000000 000\n"
+                    L"00 " +
+                    Blanks(8) +
+                    L" 0.000    00.000 000000 000000 000000 000\n"
                     L"END\nCONTOUR_\n502\n00\nEND\nCUTOUT__\n502\n00\nEND\nEND LOT_____ \n");
     Lot lot;
     EXPECT_FALSE(lot.Read(s.archive));
@@ -273,14 +289,18 @@ TEST(LotRead, AClosingLineWithATrailingBlankClearsValid)
 TEST(LotRead, AFailingOutlineListFailsTheLot)
 {
     StringArchive contours(L"LOT_____\n502\n"
-                           L"00 " + Blanks(8) + L" 0.000    00.000 000000 000000 000000 000\n"
+                           L"00 " +
+                           Blanks(8) +
+                           L" 0.000    00.000 000000 000000 000000 000\n"
                            L"END\nCONTOURX\n502\n00\nEND\nCUTOUT__\n502\n00\nEND\nEND LOT_____\n");
     Lot first;
     EXPECT_FALSE(first.Read(contours.archive));
     EXPECT_FALSE(contours.archive.valid);
 
     StringArchive cutouts(L"LOT_____\n502\n"
-                          L"00 " + Blanks(8) + L" 0.000    00.000 000000 000000 000000 000\n"
+                          L"00 " +
+                          Blanks(8) +
+                          L" 0.000    00.000 000000 000000 000000 000\n"
                           L"END\nCONTOUR_\n502\n00\nEND\nCUTOUTXX\n502\n00\nEND\nEND LOT_____\n");
     Lot second;
     EXPECT_FALSE(second.Read(cutouts.archive));
@@ -292,7 +312,9 @@ TEST(LotRead, AWrongEndOfTheContoursIsPassedOverSinceOnlyTheStreamIsTested)
     // The contour list fails without touching the stream or `valid`, and the
     // lot looks at those alone.
     StringArchive s(L"LOT_____\n502\n"
-                    L"00 " + Blanks(8) + L" 0.000    00.000 000000 000000 000000 000\n"
+                    L"00 " +
+                    Blanks(8) +
+                    L" 0.000    00.000 000000 000000 000000 000\n"
                     L"END\nCONTOUR_\n502\n00\nEMD\nCUTOUT__\n502\n00\nEND\nEND LOT_____\n");
     Lot lot;
     EXPECT_TRUE(lot.Read(s.archive));
@@ -302,7 +324,9 @@ TEST(LotRead, AWrongEndOfTheContoursIsPassedOverSinceOnlyTheStreamIsTested)
 TEST(LotRead, ANumberThatCannotBeParsedFailsTheStream)
 {
     StringArchive s(L"LOT_____\n502\n"
-                    L"00 " + Blanks(8) + L" x.000    00.000 000000 000000 000000 000\n"
+                    L"00 " +
+                    Blanks(8) +
+                    L" x.000    00.000 000000 000000 000000 000\n"
                     L"END\nCONTOUR_\n502\n00\nEND\nCUTOUT__\n502\n00\nEND\nEND LOT_____\n");
     Lot lot;
     EXPECT_FALSE(lot.Read(s.archive));

@@ -48,9 +48,18 @@ std::wstring Written(Order order)
 std::vector<std::wstring> SampleProjectAndAddresses()
 {
     return {
-        L"Tower A" + Blanks(13), Blanks(20), Blanks(20), Blanks(20),
-        L"Precast Works" + Blanks(12), Blanks(25), Blanks(8), Blanks(25),
-        Blanks(25), Blanks(25), Blanks(8), L"Site" + Blanks(21),
+        L"Tower A" + Blanks(13),
+        Blanks(20),
+        Blanks(20),
+        Blanks(20),
+        L"Precast Works" + Blanks(12),
+        Blanks(25),
+        Blanks(8),
+        Blanks(25),
+        Blanks(25),
+        Blanks(25),
+        Blanks(8),
+        L"Site" + Blanks(21),
     };
 }
 
@@ -59,7 +68,19 @@ TEST(OrderWrite, WholeRecordAt502)
     std::vector<std::wstring> expected = {
         L"HEADER__",
         L"502",
-        L"ORD-1   " L"   " L"ABCDE" L" " L"WXYZ" L" " L"      R8" L" " L"07" L" " L"00" L" " + Blanks(40),
+        L"ORD-1   "
+        L"   "
+        L"ABCDE"
+        L" "
+        L"WXYZ"
+        L" "
+        L"      R8"
+        L" "
+        L"07"
+        L" "
+        L"00"
+        L" " +
+            Blanks(40),
     };
     for (const std::wstring& line : SampleProjectAndAddresses()) {
         expected.push_back(line);
@@ -76,7 +97,17 @@ TEST(OrderWrite, WholeRecordAt600)
     std::vector<std::wstring> expected = {
         L"HEADER__",
         L"600",
-        L"ORD-1" + Blanks(15) + L" " L"ABCDE" L" " L"WXYZ" L" " L"      R8" L" " L"07" L" " L"XY",
+        L"ORD-1" + Blanks(15) +
+            L" "
+            L"ABCDE"
+            L" "
+            L"WXYZ"
+            L" "
+            L"      R8"
+            L" "
+            L"07"
+            L" "
+            L"XY",
     };
     for (const std::wstring& line : SampleProjectAndAddresses()) {
         expected.push_back(line);
@@ -91,8 +122,13 @@ TEST(OrderWrite, WholeRecordAt600)
 
 TEST(OrderWrite, IdentifyingLineAtEveryVersion)
 {
-    const std::wstring old = L"ORD-1   " L"   " L"ABCDE WXYZ       R8 07 00 " + Blanks(40);
-    const std::wstring middle = L"ORD-1   " L"   " L"ABCDE WXYZ       R8 07 XY";
+    const std::wstring old = L"ORD-1   "
+                             L"   "
+                             L"ABCDE WXYZ       R8 07 00 " +
+                             Blanks(40);
+    const std::wstring middle = L"ORD-1   "
+                                L"   "
+                                L"ABCDE WXYZ       R8 07 XY";
     const std::wstring recent = L"ORD-1" + Blanks(15) + L" ABCDE WXYZ       R8 07 XY";
     const struct {
         std::int16_t version;
@@ -100,10 +136,9 @@ TEST(OrderWrite, IdentifyingLineAtEveryVersion)
         std::wstring line;
         std::size_t length;
     } cases[] = {
-        {0, L"000", old, 77},      {5, L"005", old, 77},     {499, L"499", old, 77},
-        {501, L"501", old, 77},    {502, L"502", old, 77},   {503, L"503", middle, 36},
-        {599, L"599", middle, 36}, {600, L"600", recent, 46}, {601, L"601", recent, 46},
-        {-1, L"0-1", old, 77},
+        {0, L"000", old, 77},      {5, L"005", old, 77},      {499, L"499", old, 77},    {501, L"501", old, 77},
+        {502, L"502", old, 77},    {503, L"503", middle, 36}, {599, L"599", middle, 36}, {600, L"600", recent, 46},
+        {601, L"601", recent, 46}, {-1, L"0-1", old, 77},
     };
     for (const auto& c : cases) {
         const std::vector<std::wstring> lines = Lines(Written(Sample(c.version)));
@@ -149,8 +184,7 @@ TEST(OrderWrite, TextsAreCutToTheirWidths)
     order.orderText8 = L"ABCDEFGHIJ";
     order.legacyText2 = L"ABC";
     order.legacyText40 = L"L";
-    EXPECT_EQ(Lines(Written(order))[2],
-              L"01234567   ABCDE ABCD ABCDEFGH 07 AB" + Blanks(40) + L"L");
+    EXPECT_EQ(Lines(Written(order))[2], L"01234567   ABCDE ABCD ABCDEFGH 07 AB" + Blanks(40) + L"L");
     order.version = 600;
     EXPECT_EQ(Lines(Written(order))[2], L"0123456789ABCDEFGHIJ ABCDE ABCD ABCDEFGH 07 XY");
 }
@@ -309,12 +343,20 @@ TEST(OrderRead, AFileOfVersion600WrittenByHand)
 {
     StringArchive in(L"HEADER__\n"
                      L"600\n"
-                     L"ORD-600" + Blanks(13) + L" ABCDE WXYZ       R8 07 XY\n"
-                     L"Tower A" + Blanks(13) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n" + L"P4\n"
-                     L"Precast Works" + Blanks(12) + L"\n" + Blanks(25) + L"\n" + L"D-12345 \n" + Blanks(25) + L"\n"
-                     + Blanks(25) + L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + L"Site" + Blanks(21) + L"\n"
+                     L"ORD-600" +
+                     Blanks(13) +
+                     L" ABCDE WXYZ       R8 07 XY\n"
+                     L"Tower A" +
+                     Blanks(13) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n" +
+                     L"P4\n"
+                     L"Precast Works" +
+                     Blanks(12) + L"\n" + Blanks(25) + L"\n" + L"D-12345 \n" + Blanks(25) + L"\n" + Blanks(25) + L"\n" +
+                     Blanks(25) + L"\n" + Blanks(8) + L"\n" + L"Site" + Blanks(21) +
+                     L"\n"
                      L"31.12.2023 behind  \n"
-                     L"forty" + Blanks(35) + L"\n"
+                     L"forty" +
+                     Blanks(35) +
+                     L"\n"
                      L"0 00 000\n"
                      L"END\n"
                      L"END HEADER__\n");
@@ -350,11 +392,12 @@ TEST(OrderRead, AFileOfVersion501WithATwoDigitYear)
 {
     StringArchive in(L"HEADER__\n"
                      L"501\n"
-                     L"A1" + Blanks(6) + L"   " + Blanks(5) + L" " + Blanks(4) + L" " + Blanks(8) + L" 00 Q1 "
-                     + Blanks(34) + L"legacy\n"
-                     + Blanks(20) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n"
-                     + Blanks(25) + L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + Blanks(25) + L"\n"
-                     + Blanks(25) + L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + Blanks(25) + L"\n"
+                     L"A1" +
+                     Blanks(6) + L"   " + Blanks(5) + L" " + Blanks(4) + L" " + Blanks(8) + L" 00 Q1 " + Blanks(34) +
+                     L"legacy\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n" +
+                     Blanks(25) + L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + Blanks(25) + L"\n" + Blanks(25) +
+                     L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + Blanks(25) +
+                     L"\n"
                      L"07.03.24\n"
                      L"0 00 000\n"
                      L"END\n");
@@ -374,11 +417,12 @@ TEST(OrderRead, AnElementCountThatIsNoNumberFailsTheStream)
 {
     StringArchive in(L"HEADER__\n"
                      L"502\n"
-                     L"A1" + Blanks(6) + L"   " + Blanks(5) + L" " + Blanks(4) + L" " + Blanks(8) + L" 00 00 "
-                     + Blanks(40) + L"\n"
-                     + Blanks(20) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n"
-                     + Blanks(25) + L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + Blanks(25) + L"\n"
-                     + Blanks(25) + L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + Blanks(25) + L"\n"
+                     L"A1" +
+                     Blanks(6) + L"   " + Blanks(5) + L" " + Blanks(4) + L" " + Blanks(8) + L" 00 00 " + Blanks(40) +
+                     L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n" + Blanks(20) + L"\n" +
+                     Blanks(25) + L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + Blanks(25) + L"\n" + Blanks(25) +
+                     L"\n" + Blanks(25) + L"\n" + Blanks(8) + L"\n" + Blanks(25) +
+                     L"\n"
                      L"07.03.2024\n"
                      L"0 xx 000\n"
                      L"END\n"

@@ -1,9 +1,9 @@
 #include "records/outline/cutout.h"
 
 #include "framework/read_idioms.h"
+#include "geometry/arc.h"
 #include "geometry/circle.h"
 #include "geometry/line_segment.h"
-#include "geometry/arc.h"
 #include "geometry/polygon.h"
 #include "support/test_support.h"
 
@@ -74,8 +74,8 @@ TEST(CutoutData, NameStandsInFortyPlacesFromVersion600)
     CutoutData data;
     data.version = 600;
     data.cutouts.push_back(Window(600));
-    EXPECT_EQ(Written(data), L"CUTOUT__\n600\n01\n01 12.500 Fenster" + Spaces(33) +
-                                 L" 01\nS +00000 +00000 +01000 +00000 0000\nEND\n");
+    EXPECT_EQ(Written(data),
+              L"CUTOUT__\n600\n01\n01 12.500 Fenster" + Spaces(33) + L" 01\nS +00000 +00000 +01000 +00000 0000\nEND\n");
 }
 
 TEST(Cutout, EmptyNameIsFortyBlanksAndTheBlank)
@@ -244,7 +244,9 @@ TEST(CutoutData, ReadsBackWhatItWrote)
 TEST(CutoutData, ReadsCircleArcAndPolygonFromVersion600)
 {
     StringArchive s(L"CUTOUT__\n600\n01\n"
-                    L"01 00.500 Rund" + Spaces(36) + L" 03\n"
+                    L"01 00.500 Rund" +
+                    Spaces(36) +
+                    L" 03\n"
                     L"K +00100 +00200 00050 00FF\n"
                     L"B -00100 +00200 00050 000 180 255\n"
                     L"P 3 +00000 +00000 +01000 +00000 0001 +01000 +01000 000A\n"
@@ -272,8 +274,7 @@ TEST(CutoutData, ReadsCircleArcAndPolygonFromVersion600)
     const auto* polygon = dynamic_cast<const Polygon*>(cutout.geoData[2].curve.get());
     ASSERT_NE(polygon, nullptr);
     EXPECT_EQ(polygon->version, 600);
-    EXPECT_EQ(polygon->points,
-              (std::vector<Point2d>{Point2d(0, 0), Point2d(1000, 0), Point2d(1000, 1000)}));
+    EXPECT_EQ(polygon->points, (std::vector<Point2d>{Point2d(0, 0), Point2d(1000, 0), Point2d(1000, 1000)}));
     EXPECT_EQ(polygon->segmentFlags, (std::vector<int>{1, 10}));
     EXPECT_EQ(ReadToken(s.archive), L"NEXT");
 }

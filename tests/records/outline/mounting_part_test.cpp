@@ -1,9 +1,9 @@
 #include "records/outline/mounting_part.h"
 
 #include "framework/read_idioms.h"
+#include "geometry/arc.h"
 #include "geometry/circle.h"
 #include "geometry/line_segment.h"
-#include "geometry/arc.h"
 #include "geometry/polygon.h"
 #include "support/test_support.h"
 
@@ -108,10 +108,12 @@ TEST(MountingPartData, DefaultPartAtVersion502)
     MountingPartData data;
     data.parts.push_back(MountingPart(502));
     EXPECT_EQ(Written(data), L"MOUNPART\n502\n001\n"
-                             L"000 000 000 " + Spaces(10) + L" " + Spaces(40) + L"\n"
-                             L"00.000 000 000 0000 000 00000 00000 00\n"
-                             L"\n"
-                             L"END\n");
+                             L"000 000 000 " +
+                                 Spaces(10) + L" " + Spaces(40) +
+                                 L"\n"
+                                 L"00.000 000 000 0000 000 00000 00000 00\n"
+                                 L"\n"
+                                 L"END\n");
 }
 
 TEST(MountingPartData, Version500HasTwoDigitNumbers)
@@ -122,10 +124,12 @@ TEST(MountingPartData, Version500HasTwoDigitNumbers)
     part.partNumber = 1;
     data.parts.push_back(part);
     EXPECT_EQ(Written(data), L"MOUNPART\n500\n01\n"
-                             L"01 000 000 " + Spaces(10) + L" " + Spaces(40) + L"\n"
-                             L"00.000 000 000 0000 000 00000 00000 00\n"
-                             L"\n"
-                             L"END\n");
+                             L"01 000 000 " +
+                                 Spaces(10) + L" " + Spaces(40) +
+                                 L"\n"
+                                 L"00.000 000 000 0000 000 00000 00000 00\n"
+                                 L"\n"
+                                 L"END\n");
 }
 
 TEST(MountingPartData, Version600AddsTwoTextLinesAndThePosition)
@@ -138,8 +142,9 @@ TEST(MountingPartData, Version600AddsTwoTextLinesAndThePosition)
     part.setValue2 = 40;
     data.parts.push_back(part);
     EXPECT_EQ(Written(data), L"MOUNPART\n600\n001\n"
-                             L"001 000 000 " + Spaces(10) + L" " + Spaces(40) + L"\n" +
-                                 Spaces(20) + L"\n" + Spaces(20) + L"\n"
+                             L"001 000 000 " +
+                                 Spaces(10) + L" " + Spaces(40) + L"\n" + Spaces(20) + L"\n" + Spaces(20) +
+                                 L"\n"
                                  L"00.000 000 -00120 +00300 +00040 0000 000 00000 00000 00\n"
                                  L"\n"
                                  L"END\n");
@@ -148,9 +153,10 @@ TEST(MountingPartData, Version600AddsTwoTextLinesAndThePosition)
 TEST(MountingPart, FieldsAtVersion502)
 {
     MountingPart part = AnchorChannel(502);
-    EXPECT_EQ(Written(part), L"012 B34 000 HTA-40     Ankerschiene" + Spaces(28) + L"\n"
-                             L"06.000 005 007 1234 056 03000 02000 01\n"
-                             L"S 00000 00000 03000 02000 0000");
+    EXPECT_EQ(Written(part), L"012 B34 000 HTA-40     Ankerschiene" + Spaces(28) +
+                                 L"\n"
+                                 L"06.000 005 007 1234 056 03000 02000 01\n"
+                                 L"S 00000 00000 03000 02000 0000");
 }
 
 TEST(MountingPart, FieldsAtVersion600)
@@ -285,10 +291,12 @@ TEST(MountingPartData, LineElementMakesThePartEatTheEnd)
     StringArchive out;
     ASSERT_TRUE(written.Write(out.archive));
     ASSERT_EQ(out.Text(), L"MOUNPART\n502\n001\n"
-                          L"012 B34 000 HTA-40     Ankerschiene" + Spaces(28) + L"\n"
-                          L"06.000 005 007 1234 056 03000 02000 01\n"
-                          L"S 00000 00000 03000 02000 0000\n"
-                          L"END\n");
+                          L"012 B34 000 HTA-40     Ankerschiene" +
+                              Spaces(28) +
+                              L"\n"
+                              L"06.000 005 007 1234 056 03000 02000 01\n"
+                              L"S 00000 00000 03000 02000 0000\n"
+                              L"END\n");
 
     StringArchive in(out.Text());
     MountingPartData read;
@@ -324,8 +332,9 @@ TEST(MountingPart, NegativeSetValue2BelowVersion600DoesNotReadBack)
     written.setValue2 = -7;
     StringArchive out;
     ASSERT_TRUE(written.Write(out.archive));
-    ASSERT_EQ(out.Text(), L"000 000 000 " + Spaces(10) + L" " + Spaces(40) + L"\n"
-                          L"00.000 000 0-7 0000 000 00000 00000 00\n");
+    ASSERT_EQ(out.Text(), L"000 000 000 " + Spaces(10) + L" " + Spaces(40) +
+                              L"\n"
+                              L"00.000 000 0-7 0000 000 00000 00000 00\n");
 
     // "0-7" reads as 0 and hands "-7" on: every later field moves by one.
     StringArchive in(out.Text());
@@ -361,7 +370,8 @@ TEST(MountingPart, NameLineIsCutAtItsLastCarriageReturn)
 
 TEST(MountingPart, ReadsTheTextLinesAndThePositionFromVersion600)
 {
-    StringArchive in(L"002 000 000 " + Spaces(10) + L" Name\n" + Spaces(16) + L"Oben\n"
+    StringArchive in(L"002 000 000 " + Spaces(10) + L" Name\n" + Spaces(16) +
+                     L"Oben\n"
                      L"unten\n"
                      L"00.000 000 -00120 +00300 +00040 0000 000 00000 00000 00\n"
                      L"\n");
@@ -441,9 +451,9 @@ TEST(MountingPartData, ReadsAPolygonAndAnArcFromVersion600)
     // The arc stops before its line end, so the part's own skip takes no
     // more than that.
     StringArchive in(L"MOUNPART\n600\n001\n"
-                     L"001 A07 000 CODE       Name" + Spaces(36) + L"\n"
-                     + Spaces(20) + L"\n"
-                     + Spaces(20) + L"\n"
+                     L"001 A07 000 CODE       Name" +
+                     Spaces(36) + L"\n" + Spaces(20) + L"\n" + Spaces(20) +
+                     L"\n"
                      L"02.000 003 -00120 +00300 +00040 0009 008 01000 02000 02\n"
                      L"P 2 +00000 +00000 +01000 +02000 000A\n"
                      L"B +00500 +00500 00250 000 090 001\n"
@@ -488,7 +498,9 @@ TEST(MountingPartData, ReadsAPolygonAndAnArcFromVersion600)
 TEST(MountingPartData, VersionBelow502HasTwoDigitCounts)
 {
     StringArchive in(L"MOUNPART\n500\n01\n"
-                     L"07 001 000 " + Spaces(10) + L" " + Spaces(40) + L"\n"
+                     L"07 001 000 " +
+                     Spaces(10) + L" " + Spaces(40) +
+                     L"\n"
                      L"00.000 000 000 0000 000 00000 00000 00\n"
                      L"\n"
                      L"END\n");
@@ -504,7 +516,9 @@ TEST(MountingPartData, VersionBelow502HasTwoDigitCounts)
 TEST(MountingPartData, AnElementOfUnknownKindIsKeptWithoutACurve)
 {
     StringArchive in(L"MOUNPART\n502\n001\n"
-                     L"001 000 000 " + Spaces(10) + L" Name\n"
+                     L"001 000 000 " +
+                     Spaces(10) +
+                     L" Name\n"
                      L"00.000 000 000 0000 000 00000 00000 01\n"
                      L"X\n"
                      L"END\n");
@@ -519,7 +533,9 @@ TEST(MountingPartData, AnElementOfUnknownKindIsKeptWithoutACurve)
 TEST(MountingPartData, ACountOfPartsTooHighFailsTheStream)
 {
     StringArchive in(L"MOUNPART\n502\n002\n"
-                     L"001 000 000 " + Spaces(10) + L" Name\n"
+                     L"001 000 000 " +
+                     Spaces(10) +
+                     L" Name\n"
                      L"00.000 000 000 0000 000 00000 00000 00\n"
                      L"\n"
                      L"END\n");

@@ -54,10 +54,9 @@ TEST(AnchorBarData, EveryBarLineEndsInABlankAndTheLastLineIsLeftOpen)
     data.Add(Bar(10, 20, 30, 40));
     StringArchive s;
     EXPECT_TRUE(data.Write(s.archive));
-    EXPECT_EQ(s.Text(),
-              L"007 002\n"
-              L"001 002 00300 04000 \n"
-              L"010 020 00030 00040 ");
+    EXPECT_EQ(s.Text(), L"007 002\n"
+                        L"001 002 00300 04000 \n"
+                        L"010 020 00030 00040 ");
 }
 
 TEST(AnchorBarData, ReadsBack)

@@ -217,10 +217,9 @@ TEST(BendingFormFree, SevenEntriesAreWrittenOnTwoLinesWithoutAFinalLineEnd)
     form.buildFromSegments(Entries(7));
     StringArchive s;
     EXPECT_TRUE(form.Write(s.archive));
-    EXPECT_EQ(s.Text(),
-              L"000 02\n"
-              L"01 06 00010 +001 00020 +002 00030 +003 00040 +004 00050 +005 00060 +006\n"
-              L"02 01 00070 +007");
+    EXPECT_EQ(s.Text(), L"000 02\n"
+                        L"01 06 00010 +001 00020 +002 00030 +003 00040 +004 00050 +005 00060 +006\n"
+                        L"02 01 00070 +007");
 }
 
 TEST(BendingFormFree, ReadsBackItsLines)

@@ -136,8 +136,8 @@ TEST(ExternalIronData, AppendNumbersOneTwoThree)
 
 TEST(ExternalIronData, ReadsBack)
 {
-    StringArchive s(std::wstring(L"EXTIRON_\n600\n002\n") + anchorLine
-                    + L"\n002 01 00003 000.250 " + std::wstring(26, L' ') + L"Hook\nEND\n");
+    StringArchive s(std::wstring(L"EXTIRON_\n600\n002\n") + anchorLine + L"\n002 01 00003 000.250 " +
+                    std::wstring(26, L' ') + L"Hook\nEND\n");
     ExternalIronData data;
     EXPECT_TRUE(data.Read(s.archive));
     EXPECT_EQ(data.version, 600);

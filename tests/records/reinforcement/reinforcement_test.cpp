@@ -1,8 +1,8 @@
 #include "records/reinforcement/reinforcement.h"
 
+#include "framework/read_idioms.h"
 #include "records/reinforcement/braced_girder.h"
 #include "records/reinforcement/rodstock.h"
-#include "framework/read_idioms.h"
 #include "support/test_support.h"
 
 #include <gtest/gtest.h>
@@ -126,27 +126,25 @@ TEST(Reinforcement, MatsAreWrittenWithALineEndEach)
     block.appendSteelmat(L"", 3000, 1200, 1, 0, 1, somewhere);
     block.appendSteelmat(L"ABCDE", 3000, 1200, 5, 0, 65537, somewhere);
     EXPECT_EQ(Written(block), L"REFORCEM\n502\n"
-                              L"          " L" " L"    " L" " L"        " L" 1\n"
-                              L"END\n"
-                                  + firstMat502 + L"\n"
-                                  + L"STEELMAT\n502\n"
-                                  + L"02 +00001 +00002 +00003 1 0 "
-                                  + L"               ABCDE"
-                                  + L" 03000 01200 1\n"
-                                  + L"END\n"
-                                  + L"RODSTOCK\n502\n000\nEND\n"
-                                  + L"BRGIRDER\n502\n000\nEND\n"
-                                  + L"END STEELMAT\n"
-                                  + L"END REFORCEM\n");
+                              L"          "
+                              L" "
+                              L"    "
+                              L" "
+                              L"        "
+                              L" 1\n"
+                              L"END\n" +
+                                  firstMat502 + L"\n" + L"STEELMAT\n502\n" + L"02 +00001 +00002 +00003 1 0 " +
+                                  L"               ABCDE" + L" 03000 01200 1\n" + L"END\n" +
+                                  L"RODSTOCK\n502\n000\nEND\n" + L"BRGIRDER\n502\n000\nEND\n" + L"END STEELMAT\n" +
+                                  L"END REFORCEM\n");
 }
 
 TEST(Reinforcement, OwnIronsAreWrittenAtThreeDigitVersions)
 {
     Reinforcement block;
     block.hasExternalIrons = true;
-    EXPECT_EQ(Written(block), L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n"
-                                  + L"EXTIRON_\n502\n000\nEND\n"
-                                  + L"END REFORCEM\n");
+    EXPECT_EQ(Written(block),
+              L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n" + L"EXTIRON_\n502\n000\nEND\n" + L"END REFORCEM\n");
 }
 
 TEST(Reinforcement, OwnIronsStayOutAtVersionFive)
@@ -156,9 +154,8 @@ TEST(Reinforcement, OwnIronsStayOutAtVersionFive)
     block.hasExternalIrons = true;
     EXPECT_EQ(Written(block), L"REFORCEM\n005\n" + untouchedTextLine + L"\nEND\nEND REFORCEM\n");
     block.version = 6;
-    EXPECT_EQ(Written(block), L"REFORCEM\n006\n" + untouchedTextLine + L"\nEND\n"
-                                  + L"EXTIRON_\n502\n000\nEND\n"
-                                  + L"END REFORCEM\n");
+    EXPECT_EQ(Written(block),
+              L"REFORCEM\n006\n" + untouchedTextLine + L"\nEND\n" + L"EXTIRON_\n502\n000\nEND\n" + L"END REFORCEM\n");
 }
 
 TEST(Reinforcement, OwnIronsStayOutWhenNotRead)
@@ -302,8 +299,8 @@ TEST(Reinforcement, BarsAndBlockAt600DoNotReadBackInTheReadersOrder)
 
 TEST(Reinforcement, MatsEndAtTheFirstThingThatIsNoMat)
 {
-    StringArchive in(L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n" + firstMat502 + L"\n"
-                     + L"EXTIRON_\n502\n000\nEND\nEND REFORCEM\n");
+    StringArchive in(L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n" + firstMat502 + L"\n" +
+                     L"EXTIRON_\n502\n000\nEND\nEND REFORCEM\n");
     Reinforcement back;
     EXPECT_TRUE(back.Read(in.archive));
     ASSERT_EQ(back.mats.size(), 1u);
@@ -314,9 +311,8 @@ TEST(Reinforcement, MatsEndAtTheFirstThingThatIsNoMat)
 
 TEST(Reinforcement, BrokenMatEndsTheListWithoutFailingTheBlock)
 {
-    StringArchive in(L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n" + firstMat502 + L"\n"
-                     + L"STEELMAT XX\n"
-                     + L"END REFORCEM\n");
+    StringArchive in(L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n" + firstMat502 + L"\n" + L"STEELMAT XX\n" +
+                     L"END REFORCEM\n");
     Reinforcement back;
     // Both rewinds put the stream at the start of the broken mat's line,
     // which the closing test then skips.
@@ -328,9 +324,8 @@ TEST(Reinforcement, BrokenMatEndsTheListWithoutFailingTheBlock)
 
 TEST(Reinforcement, AMatBrokenByParsingEndsTheLoopWhereItStopped)
 {
-    StringArchive in(L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n" + firstMat502 + L"\n"
-                     + L"STEELMAT\n502\nXX\n"
-                     + L"END REFORCEM\n");
+    StringArchive in(L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n" + firstMat502 + L"\n" +
+                     L"STEELMAT\n502\nXX\n" + L"END REFORCEM\n");
     Reinforcement back;
     // A failure by parsing leaves the stream where it stopped, in the "XX"
     // line: the seek back does nothing, only the state is cleared. The irons'
@@ -346,8 +341,8 @@ TEST(Reinforcement, ReadAddsToTheMatsItHas)
 {
     Reinforcement back;
     back.appendSteelmat(L"old", 1, 1, 0, 0, 1, somewhere);
-    StringArchive in(L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n" + firstMat502 + L"\n"
-                     + L"EXTIRON_\n502\n000\nEND\nEND REFORCEM\n");
+    StringArchive in(L"REFORCEM\n502\n" + untouchedTextLine + L"\nEND\n" + firstMat502 + L"\n" +
+                     L"EXTIRON_\n502\n000\nEND\nEND REFORCEM\n");
     EXPECT_TRUE(back.Read(in.archive));
     ASSERT_EQ(back.mats.size(), 2u);
     EXPECT_EQ(back.mats[0].name, L"old");
@@ -376,7 +371,12 @@ TEST(Reinforcement, MissingEndAfterTheTextLineClearsValid)
 TEST(Reinforcement, TextFieldsKeepTheirBlanks)
 {
     StringArchive in(L"REFORCEM\n503\n"
-                     L"AB        " L" " L"CD  " L" " L"EFG     " L" 1\n"
+                     L"AB        "
+                     L" "
+                     L"CD  "
+                     L" "
+                     L"EFG     "
+                     L" 1\n"
                      L"END\n"
                      L"EXTIRON_\n503\n000\nEND\nEND REFORCEM\n");
     Reinforcement back;
@@ -434,17 +434,23 @@ TEST(Reinforcement, CopyCarriesEveryMemberAndIsDeep)
 TEST(Reinforcement, ReadsABlockWithAMatAndItsOwnIronsFromAFile)
 {
     StringArchive in(L"REFORCEM\n600\n"
-                     L"first" + std::wstring(5, L' ') + L" sec  third" + std::wstring(3, L' ') + L" 1\n"
+                     L"first" +
+                     std::wstring(5, L' ') + L" sec  third" + std::wstring(3, L' ') +
+                     L" 1\n"
                      L"END\n"
                      L"STEELMAT\n600\n"
-                     L"01 +00010 -00020 +00030 1 0 " + std::wstring(15, L' ') + L"ABCDE 03000 01200 2\n"
-                     + std::wstring(20, L' ') + L"\n" + std::wstring(20, L' ') + L"\n"
+                     L"01 +00010 -00020 +00030 1 0 " +
+                     std::wstring(15, L' ') + L"ABCDE 03000 01200 2\n" + std::wstring(20, L' ') + L"\n" +
+                     std::wstring(20, L' ') +
+                     L"\n"
                      L"END\n"
                      L"RODSTOCK\n600\n000\nEND\n"
                      L"BRGIRDER\n600\n000\nEND\n"
                      L"END STEELMAT\n"
                      L"EXTIRON_\n600\n001\n"
-                     L"001 02 00010 001.500 " + std::wstring(24, L' ') + L"Anchor\n"
+                     L"001 02 00010 001.500 " +
+                     std::wstring(24, L' ') +
+                     L"Anchor\n"
                      L"END\n"
                      L"END REFORCEM\n"
                      L"NEXT");

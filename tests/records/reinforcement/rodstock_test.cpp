@@ -107,12 +107,14 @@ TEST(Rodstock, DesignationIsCutToThreeBelow600)
     bar.designation = L"ABCDE";
     EXPECT_EQ(Written(bar), L"000 000 0 ABC 00000 000 00000 +00000 +00000 +00000 +000 "
                             L"          "
-                            L" 0\n" + defaultSecondLine);
+                            L" 0\n" +
+                                defaultSecondLine);
     Rodstock wide(600);
     wide.designation = L"ABCDEFGHIJKL";
     EXPECT_EQ(Written(wide), L"000 000 0 ABCDEFGHIJ 00000 000 00000 +00000 +00000 +00000 +000 "
                              L"          "
-                             L" 0\n" + defaultSecondLine);
+                             L" 0\n" +
+                                 defaultSecondLine);
 }
 
 TEST(Rodstock, OneCharacterCodeGetsTwoLeadingZeros)
@@ -128,8 +130,8 @@ TEST(Rodstock, ExtraDesignationIsPaddedInFrontAndCutToTen)
 {
     Rodstock bar(502);
     bar.extraDesignation = L"ABCDEFGHIJKLM";
-    EXPECT_EQ(Written(bar), L"000 000 0     00000 000 00000 +00000 +00000 +00000 +000 ABCDEFGHIJ 0\n"
-                                + defaultSecondLine);
+    EXPECT_EQ(Written(bar),
+              L"000 000 0     00000 000 00000 +00000 +00000 +00000 +000 ABCDEFGHIJ 0\n" + defaultSecondLine);
 }
 
 TEST(Rodstock, NegativeNumbersInUnsignedFieldsKeepTheirSignBehindTheZeros)
@@ -139,7 +141,8 @@ TEST(Rodstock, NegativeNumbersInUnsignedFieldsKeepTheirSignBehindTheZeros)
     bar.rotation = 1234;
     EXPECT_EQ(Written(bar), L"000 000 0     00-42 000 00000 +00000 +00000 +00000 +1234 "
                             L"          "
-                            L" 0\n" + defaultSecondLine);
+                            L" 0\n" +
+                                defaultSecondLine);
 }
 
 TEST(Rodstock, TwoCodedFormsFollowOnTheirOwnLine)
@@ -151,9 +154,8 @@ TEST(Rodstock, TwoCodedFormsFollowOnTheirOwnLine)
     bar.secondForm.formCode = L"12345";
     bar.secondForm.formValueE = 45;
     bar.formAngle = -135;
-    EXPECT_EQ(Written(bar), defaultFirstLine502 + L"\n"
-                                + L"000 000 000 00000 00000 00000 001\n"
-                                + L"012 00300 00000 00000 00000 000 12345 00000 00000 00000 00000 045 -135");
+    EXPECT_EQ(Written(bar), defaultFirstLine502 + L"\n" + L"000 000 000 00000 00000 00000 001\n" +
+                                L"012 00300 00000 00000 00000 000 12345 00000 00000 00000 00000 045 -135");
 }
 
 TEST(Rodstock, FreeFormFollowsTheSecondLine)
@@ -162,10 +164,8 @@ TEST(Rodstock, FreeFormFollowsTheSecondLine)
     bar.bendingKind = L'2';
     std::vector<BendingFormSegment> entries{BendingFormSegment(100, 90), BendingFormSegment(250, -45)};
     bar.freeForm.buildFromSegments(entries);
-    EXPECT_EQ(Written(bar), defaultFirstLine502 + L"\n"
-                                + L"000 000 000 00000 00000 00000 002\n"
-                                + L"000 01\n"
-                                + L"01 02 00100 +090 00250 -045");
+    EXPECT_EQ(Written(bar), defaultFirstLine502 + L"\n" + L"000 000 000 00000 00000 00000 002\n" + L"000 01\n" +
+                                L"01 02 00100 +090 00250 -045");
 }
 
 TEST(Rodstock, FreeFormCodeStandsRightAfterTheSecondLine)
@@ -173,9 +173,7 @@ TEST(Rodstock, FreeFormCodeStandsRightAfterTheSecondLine)
     Rodstock bar(502);
     bar.bendingKind = L'2';
     bar.freeForm.formCode = L"7";
-    EXPECT_EQ(Written(bar), defaultFirstLine502 + L"\n"
-                                + L"000 000 000 00000 00000 00000 002\n"
-                                + L"  7 00\n");
+    EXPECT_EQ(Written(bar), defaultFirstLine502 + L"\n" + L"000 000 000 00000 00000 00000 002\n" + L"  7 00\n");
 }
 
 TEST(Rodstock, UnknownBendingKindIsWrittenButCarriesNothing)
@@ -191,12 +189,9 @@ TEST(Rodstock, SpacersAndWeldingPointsInTheirOrder)
     bar.applyFlagsCode(110);
     // forms, then the empty spacer list with its own line end, then the empty
     // welding point list with its own line end
-    EXPECT_EQ(Written(bar), defaultFirstLine502 + L"\n"
-                                + L"000 000 000 00000 00000 00000 111\n"
-                                + L"000 00000 00000 00000 00000 000 000 00000 00000 00000 00000 000 +000\n"
-                                + L"000 000\n"
-                                + L"\n"
-                                + L"000 000 000 00000\n");
+    EXPECT_EQ(Written(bar), defaultFirstLine502 + L"\n" + L"000 000 000 00000 00000 00000 111\n" +
+                                L"000 00000 00000 00000 00000 000 000 00000 00000 00000 00000 000 +000\n" +
+                                L"000 000\n" + L"\n" + L"000 000 000 00000\n");
 }
 
 TEST(Rodstock, FlagsCode110)
@@ -285,12 +280,9 @@ TEST(RodstockData, ListOfTwoBars)
     data.appendRodstock(bar);
     Rodstock plain(600);
     data.appendRodstock(plain);
-    EXPECT_EQ(Written(data), L"RODSTOCK\n600\n002\n"
-                                 + fullFirstLine + L"\n" + fullSecondLine + L"\n"
-                                 + L"002 000 0            00000 000 00000 +00000 +00000 +00000 +000 "
-                                 + L"          "
-                                 + L" 0\n" + defaultSecondLine + L"\n"
-                                 + L"END\n");
+    EXPECT_EQ(Written(data), L"RODSTOCK\n600\n002\n" + fullFirstLine + L"\n" + fullSecondLine + L"\n" +
+                                 L"002 000 0            00000 000 00000 +00000 +00000 +00000 +000 " + L"          " +
+                                 L" 0\n" + defaultSecondLine + L"\n" + L"END\n");
 }
 
 TEST(RodstockData, EmptySpacerListLeavesAnEmptyLine)
@@ -299,14 +291,9 @@ TEST(RodstockData, EmptySpacerListLeavesAnEmptyLine)
     Rodstock bar(502);
     bar.hasSpacers = true;
     data.appendRodstock(bar);
-    EXPECT_EQ(Written(data), L"RODSTOCK\n502\n001\n"
-                                 + std::wstring(L"001 000 0     00000 000 00000 +00000 +00000 +00000 +000 ")
-                                 + L"          "
-                                 + L" 0\n"
-                                 + L"000 000 000 00000 00000 00000 010\n"
-                                 + L"000 000\n"
-                                 + L"\n"
-                                 + L"END\n");
+    EXPECT_EQ(Written(data),
+              L"RODSTOCK\n502\n001\n" + std::wstring(L"001 000 0     00000 000 00000 +00000 +00000 +00000 +000 ") +
+                  L"          " + L" 0\n" + L"000 000 000 00000 00000 00000 010\n" + L"000 000\n" + L"\n" + L"END\n");
 }
 
 TEST(RodstockData, EmptyCodeAndExtraDesignationReadBackFilled)
@@ -427,8 +414,8 @@ TEST(RodstockData, FormsAndSpacersReadBack)
 
 TEST(RodstockData, UnknownBendingKindReadsAsNoBendingData)
 {
-    StringArchive s(L"RODSTOCK\n502\n001\n" + defaultFirstLine502 + L"\n"
-                    + L"000 000 000 00000 00000 00000 005\nEND\n");
+    StringArchive s(L"RODSTOCK\n502\n001\n" + defaultFirstLine502 + L"\n" +
+                    L"000 000 000 00000 00000 00000 005\nEND\n");
     RodstockData data;
     EXPECT_TRUE(data.Read(s.archive));
     ASSERT_EQ(data.bars.size(), 1u);

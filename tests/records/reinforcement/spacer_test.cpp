@@ -49,10 +49,9 @@ TEST(SpacerData, TwoPositionsGiveThreeLines)
     data.Add(second);
     StringArchive s;
     EXPECT_TRUE(data.Write(s.archive));
-    EXPECT_EQ(s.Text(),
-              L"012 002\n"
-              L"00001 00002 00003 00004 00005 00006 00007 00008 00009 00010\n"
-              L"12345 00000 00000 00000 00000 00000 00000 00000 00000 00000");
+    EXPECT_EQ(s.Text(), L"012 002\n"
+                        L"00001 00002 00003 00004 00005 00006 00007 00008 00009 00010\n"
+                        L"12345 00000 00000 00000 00000 00000 00000 00000 00000 00000");
 }
 
 TEST(SpacerData, ReadsBack)

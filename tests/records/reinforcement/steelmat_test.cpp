@@ -58,13 +58,9 @@ TEST(Steelmat, EmptyMatAt502)
 TEST(Steelmat, EmptyMatAt600HasTwoLinesOfTwentyBlanks)
 {
     Steelmat mat = MatAt(600);
-    EXPECT_EQ(Written(mat), L"STEELMAT\n600\n" + defaultDataLine + L"\n"
-                                + L"                    \n"
-                                + L"                    \n"
-                                + L"END\n"
-                                + L"RODSTOCK\n600\n000\nEND\n"
-                                + L"BRGIRDER\n600\n000\nEND\n"
-                                + L"END STEELMAT");
+    EXPECT_EQ(Written(mat), L"STEELMAT\n600\n" + defaultDataLine + L"\n" + L"                    \n" +
+                                L"                    \n" + L"END\n" + L"RODSTOCK\n600\n000\nEND\n" +
+                                L"BRGIRDER\n600\n000\nEND\n" + L"END STEELMAT");
 }
 
 TEST(Steelmat, ExtraTextsAreLeftAlignedAndCut)
@@ -72,23 +68,17 @@ TEST(Steelmat, ExtraTextsAreLeftAlignedAndCut)
     Steelmat mat = MatAt(600);
     mat.extraTextA = L"first";
     mat.extraTextB = L"ABCDEFGHIJKLMNOPQRSTUVWXYZ";
-    EXPECT_EQ(Written(mat), L"STEELMAT\n600\n" + defaultDataLine + L"\n"
-                                + L"first               \n"
-                                + L"ABCDEFGHIJKLMNOPQRST\n"
-                                + L"END\n"
-                                + L"RODSTOCK\n600\n000\nEND\n"
-                                + L"BRGIRDER\n600\n000\nEND\n"
-                                + L"END STEELMAT");
+    EXPECT_EQ(Written(mat), L"STEELMAT\n600\n" + defaultDataLine + L"\n" + L"first               \n" +
+                                L"ABCDEFGHIJKLMNOPQRST\n" + L"END\n" + L"RODSTOCK\n600\n000\nEND\n" +
+                                L"BRGIRDER\n600\n000\nEND\n" + L"END STEELMAT");
 }
 
 TEST(Steelmat, ExtraTextsStayOutBelow600)
 {
     Steelmat mat = MatAt(503);
     mat.extraTextA = L"first";
-    EXPECT_EQ(Written(mat), L"STEELMAT\n503\n" + defaultDataLine + L"\nEND\n"
-                                + L"RODSTOCK\n503\n000\nEND\n"
-                                + L"BRGIRDER\n503\n000\nEND\n"
-                                + L"END STEELMAT");
+    EXPECT_EQ(Written(mat), L"STEELMAT\n503\n" + defaultDataLine + L"\nEND\n" + L"RODSTOCK\n503\n000\nEND\n" +
+                                L"BRGIRDER\n503\n000\nEND\n" + L"END STEELMAT");
 }
 
 TEST(Steelmat, ShortNameStandsAtTheRightEnd)
@@ -107,7 +97,8 @@ TEST(Steelmat, ShortNameStandsAtTheRightEnd)
                             L"01 +00001 +00002 -00003 1 0 "
                             L"               ABCDE"
                             L" 03000 01200 2\n"
-                            L"END\n" + emptyLists502 + L"END STEELMAT");
+                            L"END\n" +
+                                emptyLists502 + L"END STEELMAT");
 }
 
 TEST(Steelmat, LongNameIsCutToTwenty)
@@ -118,7 +109,8 @@ TEST(Steelmat, LongNameIsCutToTwenty)
                             L"00 +00000 +00000 +00000 0 0 "
                             L"ABCDEFGHIJKLMNOPQRST"
                             L" 00000 00000 1\n"
-                            L"END\n" + emptyLists502 + L"END STEELMAT");
+                            L"END\n" +
+                                emptyLists502 + L"END STEELMAT");
 }
 
 TEST(Steelmat, KindIsWrittenFromItsLowSixteenBits)
@@ -129,13 +121,15 @@ TEST(Steelmat, KindIsWrittenFromItsLowSixteenBits)
                             L"00 +00000 +00000 +00000 0 0 "
                             L"                    "
                             L" 00000 00000 1\n"
-                            L"END\n" + emptyLists502 + L"END STEELMAT");
+                            L"END\n" +
+                                emptyLists502 + L"END STEELMAT");
     mat.matKind = 65535;
     EXPECT_EQ(Written(mat), L"STEELMAT\n502\n"
                             L"00 +00000 +00000 +00000 0 0 "
                             L"                    "
                             L" 00000 00000 -1\n"
-                            L"END\n" + emptyLists502 + L"END STEELMAT");
+                            L"END\n" +
+                                emptyLists502 + L"END STEELMAT");
 }
 
 TEST(Steelmat, BarsAndGirdersAreWrittenInside)
@@ -146,16 +140,11 @@ TEST(Steelmat, BarsAndGirdersAreWrittenInside)
     BracedGirder girder;
     girder.thirdCode = L"000";
     mat.girders.appendGirder(girder);
-    EXPECT_EQ(Written(mat), L"STEELMAT\n502\n" + defaultDataLine + L"\nEND\n"
-                                + L"RODSTOCK\n502\n001\n"
-                                + L"001 000 0     00000 000 00000 +00000 +00000 +00000 +000            0\n"
-                                + L"000 000 000 00000 00000 00000 000\n"
-                                + L"END\n"
-                                + L"BRGIRDER\n502\n001\n"
-                                + L"001 000 00000            00000 +00000 +00000 +00000 +000 0\n"
-                                + L"000 000 000 00.000 00 000 00000 000\n"
-                                + L"END\n"
-                                + L"END STEELMAT");
+    EXPECT_EQ(Written(mat), L"STEELMAT\n502\n" + defaultDataLine + L"\nEND\n" + L"RODSTOCK\n502\n001\n" +
+                                L"001 000 0     00000 000 00000 +00000 +00000 +00000 +000            0\n" +
+                                L"000 000 000 00000 00000 00000 000\n" + L"END\n" + L"BRGIRDER\n502\n001\n" +
+                                L"001 000 00000            00000 +00000 +00000 +00000 +000 0\n" +
+                                L"000 000 000 00.000 00 000 00000 000\n" + L"END\n" + L"END STEELMAT");
 }
 
 TEST(Steelmat, ShortNameReadsBackTwentyWide)
@@ -276,9 +265,12 @@ TEST(Steelmat, CopyIsDeepAndViewsItsOwnLists)
 TEST(Steelmat, ReadsAMatOfVersion600FromAFile)
 {
     StringArchive s(L"STEELMAT\n600\n"
-                    L"01 +00010 -00020 +00030 1 0 " + std::wstring(15, L' ') + L"ABCDE 03000 01200 2\n"
-                    + std::wstring(20, L' ') + L"\n"
-                    L"lower" + std::wstring(15, L' ') + L"\n"
+                    L"01 +00010 -00020 +00030 1 0 " +
+                    std::wstring(15, L' ') + L"ABCDE 03000 01200 2\n" + std::wstring(20, L' ') +
+                    L"\n"
+                    L"lower" +
+                    std::wstring(15, L' ') +
+                    L"\n"
                     L"END\n"
                     L"RODSTOCK\n600\n000\nEND\n"
                     L"BRGIRDER\n600\n000\nEND\n"
@@ -307,8 +299,11 @@ TEST(Steelmat, ReadsAMatOfVersion600FromAFile)
 TEST(Steelmat, AFlagOtherThanZeroOrOneFailsTheStream)
 {
     StringArchive s(L"STEELMAT\n502\n"
-                    L"01 +00010 -00020 +00030 2 0 " + std::wstring(15, L' ') + L"ABCDE 03000 01200 2\n"
-                    L"END\n" + emptyLists502 + L"END STEELMAT\n");
+                    L"01 +00010 -00020 +00030 2 0 " +
+                    std::wstring(15, L' ') +
+                    L"ABCDE 03000 01200 2\n"
+                    L"END\n" +
+                    emptyLists502 + L"END STEELMAT\n");
     Steelmat mat;
     EXPECT_FALSE(mat.Read(s.archive));
     EXPECT_TRUE(s.archive.fail());

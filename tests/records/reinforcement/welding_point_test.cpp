@@ -76,9 +76,8 @@ TEST(WeldingPointData, HeadLetterFlagAndCountSideBySide)
     data.Add(point);
     StringArchive s;
     EXPECT_TRUE(data.Write(s.archive));
-    EXPECT_EQ(s.Text(),
-              L"001 022 333 W1001\n"
-              L"00120 005 00340 007 00000 000 00000 000 00000 000 00000 000 00000 000 00000 000");
+    EXPECT_EQ(s.Text(), L"001 022 333 W1001\n"
+                        L"00120 005 00340 007 00000 000 00000 000 00000 000 00000 000 00000 000 00000 000");
 }
 
 TEST(WeldingPointData, FlagAndCountWrittenTogetherDoNotReadBack)

@@ -47,8 +47,9 @@ TEST(CallPlaces, CommentsStringsAndNestingDoNotMislead)
 TEST(CallPlaces, ColumnsCountCharactersNotBytes)
 {
     // "Łódź" is four characters in seven bytes; a byte order mark is none.
-    const std::string text = "\xEF\xBB\xBF{\"calls\": [{\"call\": \"addLayer\", \"layerName\": \"\xC5\x81\xC3\xB3\x64\xC5\xBA\"}, "
-                             "{\"call\": \"endDocument\"}]}";
+    const std::string text =
+        "\xEF\xBB\xBF{\"calls\": [{\"call\": \"addLayer\", \"layerName\": \"\xC5\x81\xC3\xB3\x64\xC5\xBA\"}, "
+        "{\"call\": \"endDocument\"}]}";
     EXPECT_EQ(Places(text), (Pairs{{1, 12}, {1, 55}}));
 }
 

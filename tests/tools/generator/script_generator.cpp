@@ -102,8 +102,8 @@ std::string Text(Random& random, int longest)
     std::string text;
     const std::int64_t length = random.Between(0, longest);
     for (std::int64_t i = 0; i < length; ++i) {
-        AppendUtf8(text, static_cast<unsigned>(random.Chance(85) ? random.Between(0x20, 0x7E)
-                                                                 : random.Between(0xA0, 0xFF)));
+        AppendUtf8(text,
+                   static_cast<unsigned>(random.Chance(85) ? random.Between(0x20, 0x7E) : random.Between(0xA0, 0xFF)));
     }
     return text;
 }
@@ -119,8 +119,8 @@ std::string TwoDigits(std::int64_t value)
 std::string Date(Random& random)
 {
     const std::string separator = random.Chance(80) ? "." : random.Pick(std::vector<std::string>{"/", "-", " "});
-    return TwoDigits(random.Between(1, 31)) + separator + TwoDigits(random.Between(1, 12)) + separator
-           + std::to_string(random.Between(1900, 2199));
+    return TwoDigits(random.Between(1, 31)) + separator + TwoDigits(random.Between(1, 12)) + separator +
+           std::to_string(random.Between(1900, 2199));
 }
 
 Json Integers(Random& random, std::size_t count, Range typical)
@@ -240,8 +240,11 @@ Json OtherSet(Random& random)
     if (kind == 3 || kind == 5) {
         kind = 4;
     }
-    return Json{{"call", "addSet"}, {"setKind", kind}, {"setName", Text(random, 10)},
-                {"valueCount", random.Value({0, 20}, kInt32)}, {"values", Integers(random, 2, {0, 100})}};
+    return Json{{"call", "addSet"},
+                {"setKind", kind},
+                {"setName", Text(random, 10)},
+                {"valueCount", random.Value({0, 20}, kInt32)},
+                {"values", Integers(random, 2, {0, 100})}};
 }
 
 Json Steelmat(Random& random)
@@ -312,7 +315,8 @@ Json FreeFormRodstock(Random& random)
     Json segments = Json::array();
     const std::int64_t count = freeForm ? random.Between(0, 13) : random.Between(0, 2);
     for (std::int64_t i = 0; i < count; ++i) {
-        segments.push_back(Json{{"length", random.Value({0, 3000}, kInt32)}, {"angle", random.Value({-180, 180}, kInt16)}});
+        segments.push_back(
+            Json{{"length", random.Value({0, 3000}, kInt32)}, {"angle", random.Value({-180, 180}, kInt16)}});
     }
     Count(random, bar, "segmentCount", count);
     return Json{{"call", "addFreeFormRodstock"}, {"bar", bar}, {"segments", segments}};
@@ -337,8 +341,8 @@ std::vector<Json> OrderCalls(Random& random)
     // Every adder at least once.
     using Maker = Json (*)(Random&);
     const std::vector<std::pair<Maker, int>> adders = {
-        {Layer, 3},    {Contour, 2},  {Cutout, 2},      {MountedPart, 2},      {Girders, 2},        {Steelmat, 2},
-        {CfsRodstock, 3}, {StraightRodstock, 2}, {FreeFormRodstock, 2}, {ExtIron, 3}};
+        {Layer, 3},    {Contour, 2},     {Cutout, 2},           {MountedPart, 2},      {Girders, 2},
+        {Steelmat, 2}, {CfsRodstock, 3}, {StraightRodstock, 2}, {FreeFormRodstock, 2}, {ExtIron, 3}};
     for (const auto& [make, most] : adders) {
         const std::int64_t count = random.Between(1, most);
         for (std::int64_t i = 0; i < count; ++i) {

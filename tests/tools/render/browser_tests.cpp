@@ -105,8 +105,7 @@ PngImage Screenshot(const std::string& page, const std::string& png, int width, 
 // The tool, as a user runs it.
 void Render(const std::string& slab, const std::string& output, const std::string& options)
 {
-    const std::string command = Quoted(UNITECHNIK_TOOL) + " render " + Quoted(slab) + " -o " + Quoted(output) +
-                                options;
+    const std::string command = Quoted(UNITECHNIK_TOOL) + " render " + Quoted(slab) + " -o " + Quoted(output) + options;
     ASSERT_EQ(Shell(command), 0) << command;
 }
 
@@ -266,9 +265,7 @@ TEST_F(Browser, TheHtmlPageShowsTheSlabBesideItsRecords)
     const double scaleX = (fill.right - fill.left + 1) / 6000.0;
     const double scaleY = (fill.bottom - fill.top + 1) / 2400.0;
     EXPECT_NEAR(scaleX, scaleY, 0.01) << "the drawing keeps its proportions";
-    const Mapping to = [&](Point p) {
-        return Point{fill.left + p.x * scaleX, fill.bottom + 1 - p.y * scaleY};
-    };
+    const Mapping to = [&](Point p) { return Point{fill.left + p.x * scaleX, fill.bottom + 1 - p.y * scaleY}; };
     CheckSlabPixels(image, to);
 }
 

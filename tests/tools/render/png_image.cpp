@@ -35,7 +35,8 @@ Colour PngImage::At(int x, int y) const
     if (x < 0 || y < 0 || x >= width_ || y >= height_) {
         return {-1000, -1000, -1000};
     }
-    const std::size_t at = (static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x)) * 4;
+    const std::size_t at =
+        (static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x)) * 4;
     return {rgba_[at], rgba_[at + 1], rgba_[at + 2]};
 }
 

@@ -135,8 +135,7 @@ TEST_F(SlabSvg, TheDrawingIsFlippedOnceAtItsRootGroupAndItsTextsStandUpright)
     EXPECT_EQ(ToRoot(texts[0]).d, 1.0);
     // It stands above the part's box, whose top is y = 1300 on the drawing:
     // in the root's coordinates that is above -1300.
-    const Point anchor =
-        ToRoot(texts[0]).Apply({texts[0]->DoubleAttribute("x"), texts[0]->DoubleAttribute("y")});
+    const Point anchor = ToRoot(texts[0]).Apply({texts[0]->DoubleAttribute("x"), texts[0]->DoubleAttribute("y")});
     EXPECT_EQ(anchor.x, 4550.0);
     EXPECT_LT(anchor.y, -1300.0);
 }
@@ -226,8 +225,7 @@ TEST_F(SlabSvg, TheContoursCornersStandWhereTheFlipPutsThem)
 
 TEST_F(SlabSvg, TheOpeningsCornersStandWhereTheFlipPutsThem)
 {
-    ExpectPoints(slab->PointsOf("cutout-1"),
-                 {{1000, -600}, {2200, -600}, {2200, -1500}, {1000, -1500}, {1000, -600}});
+    ExpectPoints(slab->PointsOf("cutout-1"), {{1000, -600}, {2200, -600}, {2200, -1500}, {1000, -1500}, {1000, -600}});
     EXPECT_STREQ(slab->Group("cutout-1")->FirstChildElement("path")->Attribute("class"), "opening");
 }
 

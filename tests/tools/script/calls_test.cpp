@@ -69,8 +69,8 @@ TEST(ScriptCalls, StartOrderAndEndDocumentGiveTheGoldenOrder)
 
 TEST(ScriptCalls, SetThicknessesFillsBothThicknessesOfTheElement)
 {
-    const std::string expected = Replaced(V600(), "00000.0 0000 000 000 000 000 000 0000\r\n",
-                                          "00000.0 0250 000 000 000 000 000 0180\r\n");
+    const std::string expected =
+        Replaced(V600(), "00000.0 0000 000 000 000 000 000 0000\r\n", "00000.0 0250 000 000 000 000 000 0180\r\n");
     ExpectSameBytes(expected, Document({R"({"call": "setThicknesses", "thickness": 250, "secondThickness": 180})"}));
 }
 
@@ -112,33 +112,30 @@ TEST(ScriptCalls, AContourCountLargerThanItsPointsIsPaddedWithZeroPoints)
 {
     // Three points, the third (0, 0) by padding: two pieces, the second back
     // to the origin, and a box of 6000 by 0.
-    const std::string expected =
-        Replaced(Replaced(V600(), kEmptyContours,
-                          "CONTOUR_\r\n600\r\n01\r\n01 00 02\r\n"
-                          "S +00000 +00000 +06000 +00000 0000\r\n"
-                          "S +06000 +00000 +00000 +00000 0000\r\nEND\r\n"),
-                 kNoExtents, "\r\n06000 00000 +0000 +0000");
+    const std::string expected = Replaced(Replaced(V600(), kEmptyContours,
+                                                   "CONTOUR_\r\n600\r\n01\r\n01 00 02\r\n"
+                                                   "S +00000 +00000 +06000 +00000 0000\r\n"
+                                                   "S +06000 +00000 +00000 +00000 0000\r\nEND\r\n"),
+                                          kNoExtents, "\r\n06000 00000 +0000 +0000");
     ExpectSameBytes(expected, Document({R"({"call": "addContour", "pointCount": 3, "points": [0, 0, 6000, 0]})"}));
 }
 
 TEST(ScriptCalls, AMissingContourCountIsTheNumberOfPoints)
 {
-    const std::string expected =
-        Replaced(Replaced(V600(), kEmptyContours,
-                          "CONTOUR_\r\n600\r\n01\r\n01 00 02\r\n"
-                          "S +00000 +00000 +06000 +00000 0000\r\n"
-                          "S +06000 +00000 +06000 +02400 0000\r\nEND\r\n"),
-                 kNoExtents, "\r\n06000 02400 +0000 +0000");
+    const std::string expected = Replaced(Replaced(V600(), kEmptyContours,
+                                                   "CONTOUR_\r\n600\r\n01\r\n01 00 02\r\n"
+                                                   "S +00000 +00000 +06000 +00000 0000\r\n"
+                                                   "S +06000 +00000 +06000 +02400 0000\r\nEND\r\n"),
+                                          kNoExtents, "\r\n06000 02400 +0000 +0000");
     ExpectSameBytes(expected, Document({R"({"call": "addContour", "points": [0, 0, 6000, 0, 6000, 2400]})"}));
 }
 
 TEST(ScriptCalls, AContourCountSmallerThanItsPointsReadsOnlyThatMany)
 {
-    const std::string expected =
-        Replaced(Replaced(V600(), kEmptyContours,
-                          "CONTOUR_\r\n600\r\n01\r\n01 00 01\r\n"
-                          "S +00000 +00000 +06000 +00000 0000\r\nEND\r\n"),
-                 kNoExtents, "\r\n06000 00000 +0000 +0000");
+    const std::string expected = Replaced(Replaced(V600(), kEmptyContours,
+                                                   "CONTOUR_\r\n600\r\n01\r\n01 00 01\r\n"
+                                                   "S +00000 +00000 +06000 +00000 0000\r\nEND\r\n"),
+                                          kNoExtents, "\r\n06000 00000 +0000 +0000");
     ExpectSameBytes(expected,
                     Document({R"({"call": "addContour", "pointCount": 2, "points": [0, 0, 6000, 0, 6000, 2400]})"}));
 }
@@ -147,8 +144,9 @@ TEST(ScriptCalls, AContourOfNoPointsHasNoPiecesAndTheBoxOfNothing)
 {
     // A contour without pieces: its header, an empty line, and the extents
     // of the empty box, which wrap to 1.
-    const std::string expected = Replaced(Replaced(V600(), kEmptyContours, "CONTOUR_\r\n600\r\n01\r\n01 00 00\r\n\r\nEND\r\n"),
-                                          kNoExtents, "\r\n00001 00001 +0000 +0000");
+    const std::string expected =
+        Replaced(Replaced(V600(), kEmptyContours, "CONTOUR_\r\n600\r\n01\r\n01 00 00\r\n\r\nEND\r\n"), kNoExtents,
+                 "\r\n00001 00001 +0000 +0000");
     ExpectSameBytes(expected, Document({R"({"call": "addContour"})"}));
     ExpectSameBytes(expected, Document({R"({"call": "addContour", "pointCount": 1})"}));
     ExpectSameBytes(expected, Document({R"({"call": "addContour", "pointCount": -3, "points": []})"}));
@@ -169,9 +167,8 @@ TEST(ScriptCalls, ACutoutCountInItsBlockPadsThePoints)
 std::string MountedPartSummary(const std::string& lastLine, const std::string& pieces)
 {
     return Replaced(FreshSummary(), "MOUNPART\n600\n000\nEND\n",
-                    "MOUNPART\n600\n001\n001 000 000            Box" + std::string(37, ' ') + "\n"
-                        + std::string(20, ' ') + "\n" + std::string(20, ' ') + "\n" + lastLine + "\n" + pieces
-                        + "END\n");
+                    "MOUNPART\n600\n001\n001 000 000            Box" + std::string(37, ' ') + "\n" +
+                        std::string(20, ' ') + "\n" + std::string(20, ' ') + "\n" + lastLine + "\n" + pieces + "END\n");
 }
 
 TEST(ScriptCalls, AMountedPartReadsItsTwoValuesAndWholePiecesPaddedWithZeros)
@@ -219,11 +216,11 @@ TEST(ScriptCalls, FreeFormSegmentsArePaddedToTheBarsSegmentCount)
 {
     const std::string bar = R"("bar": {"designation": "B500A", "firstSize": 1650, "secondSize": 10, "rodKind": 2, )"
                             R"("bendingCode": 2)";
-    const std::string padded = R"({"call": "addFreeFormRodstock", )" + bar
-                               + R"(, "segmentCount": 7}, "segments": [{"length": 200, "angle": 90}, {"length": 150}]})";
-    const std::string whole = R"({"call": "addFreeFormRodstock", )" + bar
-                              + R"(}, "segments": [{"length": 200, "angle": 90}, {"length": 150, "angle": 0}, )"
-                                R"({}, {}, {}, {}, {"length": 0, "angle": 0}]})";
+    const std::string padded = R"({"call": "addFreeFormRodstock", )" + bar +
+                               R"(, "segmentCount": 7}, "segments": [{"length": 200, "angle": 90}, {"length": 150}]})";
+    const std::string whole = R"({"call": "addFreeFormRodstock", )" + bar +
+                              R"(}, "segments": [{"length": 200, "angle": 90}, {"length": 150, "angle": 0}, )"
+                              R"({}, {}, {}, {}, {"length": 0, "angle": 0}]})";
     const std::string padding = Summary({padded});
     EXPECT_EQ(Summary({whole}), padding);
     // Seven segments: a part of six and a part of one.
@@ -272,7 +269,10 @@ TEST(ScriptCalls, TextsUpToU00FFReachTheFileAsOneByteEach)
     TemporaryDirectory directory;
     ASSERT_EQ(BuildScript(directory.Path(), Script({start, R"({"call": "endDocument", "path": "out.txt"})"})).exitCode,
               0);
-    ExpectSameBytes(Replaced(V600(), " Slab\r\n", " Sl\xE4" "b\r\n"), ReadFileBytes(directory.File("out.txt")));
+    ExpectSameBytes(Replaced(V600(), " Slab\r\n",
+                             " Sl\xE4"
+                             "b\r\n"),
+                    ReadFileBytes(directory.File("out.txt")));
 }
 
 TEST(ScriptCalls, ACharacterAboveUFFFFIsTwoCodeUnitsAndEndsTheFile)
@@ -283,7 +283,9 @@ TEST(ScriptCalls, ACharacterAboveUFFFFIsTwoCodeUnitsAndEndsTheFile)
     const std::size_t lineD = golden.find("              0000 0000 00 ");
     ASSERT_NE(lineD, std::string::npos);
     const std::string expected = golden.substr(0, lineD) + "              0000 0000 00 " + std::string(25, ' ') + "Sl";
-    for (const char* text : {"\"Sl\xF0\x9F\x98\x80" "b\"", "\"Sl\\ud83d\\ude00b\""}) {
+    for (const char* text : {"\"Sl\xF0\x9F\x98\x80"
+                             "b\"",
+                             "\"Sl\\ud83d\\ude00b\""}) {
         TemporaryDirectory directory;
         const std::string start = Replaced(kStartOrder600, "\"Slab\"", text);
         ASSERT_EQ(
@@ -323,8 +325,7 @@ TEST(ScriptCalls, EveryExportIsReachable)
                 R"({"call": "addContour", "points": [0, 0, 100, 0]})",
                 R"({"call": "addCutout", "points": [0, 0, 10, 0]})",
                 R"({"call": "addSet", "setKind": 3, "values": [1, 2, 0, 0, 10, 10]})",
-                R"({"call": "addSteelmat", "name": "Q188A"})",
-                R"({"call": "addCFSRodstock", "designation": "B500B"})",
+                R"({"call": "addSteelmat", "name": "Q188A"})", R"({"call": "addCFSRodstock", "designation": "B500B"})",
                 R"({"call": "addStraightRodstock", "bar": {"designation": "B500B"}})",
                 R"({"call": "addFreeFormRodstock", "bar": {"designation": "B500B", "bendingCode": 2}, )"
                 R"("segments": [{"length": 100, "angle": 90}]})",
@@ -333,10 +334,11 @@ TEST(ScriptCalls, EveryExportIsReachable)
         {"--trace", "trace.jsonl"});
     ASSERT_EQ(run.exitCode, 0) << run.err;
     const std::vector<std::string> expected = {
-        "startOrder 1",          "setProjectData",   "setSlabInfoFields",   "setThicknesses",
-        "setDoubleWallGap",      "addLayer",         "addContour",          "addCutout",
-        "addSet 1",              "addSteelmat 1",    "addCFSRodstock 1",    "addStraightRodstock",
-        "addFreeFormRodstock",   "addExtIron 1",     "getFullReinforcementString text",
+        "startOrder 1",        "setProjectData",   "setSlabInfoFields",
+        "setThicknesses",      "setDoubleWallGap", "addLayer",
+        "addContour",          "addCutout",        "addSet 1",
+        "addSteelmat 1",       "addCFSRodstock 1", "addStraightRodstock",
+        "addFreeFormRodstock", "addExtIron 1",     "getFullReinforcementString text",
         "endDocument 1"};
     std::vector<std::string> seen;
     std::istringstream lines(ReadFileBytes(directory.File("trace.jsonl")));

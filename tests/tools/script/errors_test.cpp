@@ -71,8 +71,9 @@ std::vector<BadScript> AllBadScripts()
          "followed by U+DC00..U+DFFF; last read: '\"\\ud800\"'"},
         {"DoubledKey", Calls(R"({"call": "addContour", "pointCount": 2, "pointCount": 3})"),
          "calls[0]: the key \"pointCount\" stands twice"},
-        {"DoubledKeyInABlock", Calls(R"({"call": "addCutout"}, {"call": "addCutout", "block": {"pointCount": 2, )"
-                                     R"("pointCount": 3}})"),
+        {"DoubledKeyInABlock",
+         Calls(R"({"call": "addCutout"}, {"call": "addCutout", "block": {"pointCount": 2, )"
+               R"("pointCount": 3}})"),
          "calls[1].block: the key \"pointCount\" stands twice"},
         {"DoubledCalls", "{\"calls\": [], \"calls\": []}", "the top object: the key \"calls\" stands twice"},
         {"DoubledKeyInADeepArray", "{\"calls\": [[], [[{}, {\"a\": 1, \"a\": 2}]]]}",

@@ -119,9 +119,10 @@ TEST(TreeJson, WhatDoesNotFitIsToldByItsPath)
     ExpectError(R"({"orders": [{"orderNumber": 7}]})", "document.orders[0].orderNumber: expected a text");
     ExpectError(R"({"orders": [{"elementParts": [{"hasExternalIron": 1}]}]})",
                 "document.orders[0].elementParts[0].hasExternalIron: expected true or false");
-    ExpectError(R"({"orders": [{"elementParts": [{"contourData": {"contours": [{"geoData": [{"curve": {"class": "Spline"}}]}]}}]}]})",
-                "document.orders[0].elementParts[0].contourData.contours[0].geoData[0].curve.class: expected Arc, "
-                "Circle, LineSegment or Polygon");
+    ExpectError(
+        R"({"orders": [{"elementParts": [{"contourData": {"contours": [{"geoData": [{"curve": {"class": "Spline"}}]}]}}]}]})",
+        "document.orders[0].elementParts[0].contourData.contours[0].geoData[0].curve.class: expected Arc, "
+        "Circle, LineSegment or Polygon");
     ExpectError(R"({"orders": [{"elementParts": [{"rodstockData": {"bars": [{"bendingKind": "12"}]}}]}]})",
                 "document.orders[0].elementParts[0].rodstockData.bars[0].bendingKind: expected a text of one "
                 "character");
@@ -131,7 +132,8 @@ TEST(TreeJson, WhatDoesNotFitIsToldByItsPath)
 TEST(TreeText, TheOutlineOfTheReinforcedSlab)
 {
     TolerantDocument document = ReadTolerantly(Golden("reinforced/reinforced-600.txt"));
-    const std::string expected = ReadFileBytes(std::string(ITUNITECHNIK_TOOL_EXPECTED_DIR) + "/reinforced-600.tree.txt");
+    const std::string expected =
+        ReadFileBytes(std::string(ITUNITECHNIK_TOOL_EXPECTED_DIR) + "/reinforced-600.tree.txt");
     ASSERT_FALSE(expected.empty());
     EXPECT_EQ(DescribeDifference(expected, TreeText(document.orders)), "");
 }

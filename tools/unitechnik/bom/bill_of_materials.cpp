@@ -134,9 +134,8 @@ private:
 // The characters of a UTF-8 text, for the width of a column.
 std::size_t Characters(const std::string& text)
 {
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
-    }));
+    return static_cast<std::size_t>(
+        std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
 // The table's columns side by side: text stands left, numbers right.
@@ -219,15 +218,16 @@ std::vector<BillTable> BillTables(const ElementBill& bill)
 {
     std::vector<BillTable> tables;
 
-    BillTable bars{"Bars", {"Designation", "Diameter (mm)", "Count", "Total length (mm)"}, {false, true, true, true}, {}};
+    BillTable bars{
+        "Bars", {"Designation", "Diameter (mm)", "Count", "Total length (mm)"}, {false, true, true, true}, {}};
     for (const BarLine& line : bill.bars) {
         bars.rows.push_back({line.designation, std::to_string(line.diameter), std::to_string(line.count),
                              std::to_string(line.totalLength)});
     }
     tables.push_back(std::move(bars));
 
-    BillTable girders{"Braced girders", {"Designation", "Type", "Count", "Total length (mm)"}, {false, true, true, true},
-                      {}};
+    BillTable girders{
+        "Braced girders", {"Designation", "Type", "Count", "Total length (mm)"}, {false, true, true, true}, {}};
     for (const GirderLine& line : bill.girders) {
         girders.rows.push_back({line.designation, std::to_string(line.type), std::to_string(line.count),
                                 std::to_string(line.totalLength)});

@@ -46,9 +46,9 @@ struct PartLine {
 };
 
 struct ElementBill {
-    std::string order;   // the order's number
-    std::string element; // the element's number
-    std::string text;    // the element's text
+    std::string order;               // the order's number
+    std::string element;             // the element's number
+    std::string text;                // the element's text
     std::vector<BarLine> bars;       // by designation, then diameter
     std::vector<GirderLine> girders; // by designation, then type
     std::vector<MatLine> mats;       // by name, then size

@@ -119,8 +119,8 @@ public:
             }
         } else {
             // A number, true, false or null.
-            while (!AtEnd() && Peek() != ',' && Peek() != '}' && Peek() != ']' && Peek() != ' ' &&
-                   Peek() != '\t' && Peek() != '\r' && Peek() != '\n' && Peek() != '/') {
+            while (!AtEnd() && Peek() != ',' && Peek() != '}' && Peek() != ']' && Peek() != ' ' && Peek() != '\t' &&
+                   Peek() != '\r' && Peek() != '\n' && Peek() != '/') {
                 Take();
             }
         }

@@ -56,8 +56,8 @@ std::optional<Finding> StopFinding(const std::string& path, const TolerantDocume
     }
     if (at.atEnd) {
         return At(path, place, Code::cutOff,
-                  "the file ends inside " + (at.record.empty() ? std::string("a record") : at.record) +
-                      ": expected " + at.expected);
+                  "the file ends inside " + (at.record.empty() ? std::string("a record") : at.record) + ": expected " +
+                      at.expected);
     }
     return At(path, place, Code::unreadableLine,
               "expected " + at.expected + (at.record.empty() ? std::string() : " in " + at.record));

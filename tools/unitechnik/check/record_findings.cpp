@@ -21,9 +21,9 @@ std::string Joined(const std::string& prefix, const std::string& name)
 // The names the records give the counts of their lists.
 bool IsCount(const std::string& member)
 {
-    static const std::set<std::string> counts{"bars",   "concreteLayers", "contours", "cutouts",
-                                              "elementParts", "geoData", "girders", "irons",
-                                              "parts",  "points",   "positions", "segments"};
+    static const std::set<std::string> counts{"bars",         "concreteLayers", "contours",  "cutouts",
+                                              "elementParts", "geoData",        "girders",   "irons",
+                                              "parts",        "points",         "positions", "segments"};
     return counts.count(member) > 0;
 }
 

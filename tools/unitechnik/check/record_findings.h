@@ -19,17 +19,17 @@ namespace ItUnitechnik::Tool::Check {
 
 struct RecordFinding {
     Code code = Code::textCut;
-    std::string tag;           // the record's tag, or that of the record it stands in
+    std::string tag;              // the record's tag, or that of the record it stands in
     const void* record = nullptr; // the innermost record of the tree known to hold the member
-    std::string member;        // the member from that record ("x" of a point)
-    std::string path;          // of the list entry that holds it ("orders[0].elementParts[0]")
-    std::string name;          // the member from there ("curve.start.x"); a list's name for a count
-    bool list = false;         // the member is a count of a list
-    bool writtenAsZero = false; // a coordinate below zero that the version writes as 0
-    std::string value;         // the value as the tree shows it (tree/flat_records.h)
-    std::wstring text;         // a text's whole value, for a text event
+    std::string member;           // the member from that record ("x" of a point)
+    std::string path;             // of the list entry that holds it ("orders[0].elementParts[0]")
+    std::string name;             // the member from there ("curve.start.x"); a list's name for a count
+    bool list = false;            // the member is a count of a list
+    bool writtenAsZero = false;   // a coordinate below zero that the version writes as 0
+    std::string value;            // the value as the tree shows it (tree/flat_records.h)
+    std::wstring text;            // a text's whole value, for a text event
     std::optional<Place> written; // where the field stands in the document written
-    std::string message;       // what is wrong, without place
+    std::string message;          // what is wrong, without place
 };
 
 // The events of a document written in memory, as findings: a cut that drops

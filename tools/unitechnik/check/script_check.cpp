@@ -166,10 +166,7 @@ public:
 private:
     static bool WritesFile(const Call& call) { return call.callEntry->pathKey != nullptr; }
 
-    Place PlaceOfCall(std::size_t index) const
-    {
-        return index < places_.size() ? places_[index] : Place{1, 1};
-    }
+    Place PlaceOfCall(std::size_t index) const { return index < places_.size() ? places_[index] : Place{1, 1}; }
 
     void Add(const Call& call, Code code, const std::string& message, nlohmann::ordered_json details)
     {

@@ -75,9 +75,8 @@ std::vector<std::pair<std::size_t, std::size_t>> Matches(const std::vector<std::
         const auto cell = [m](std::size_t i, std::size_t j) { return i * (m + 1) + j; };
         for (std::size_t i = n; i-- > 0;) {
             for (std::size_t j = m; j-- > 0;) {
-                table[cell(i, j)] = a[head + i] == b[head + j]
-                                        ? table[cell(i + 1, j + 1)] + 1
-                                        : std::max(table[cell(i + 1, j)], table[cell(i, j + 1)]);
+                table[cell(i, j)] = a[head + i] == b[head + j] ? table[cell(i + 1, j + 1)] + 1
+                                                               : std::max(table[cell(i + 1, j)], table[cell(i, j + 1)]);
             }
         }
         std::size_t i = 0;
@@ -308,8 +307,8 @@ nlohmann::ordered_json ChangesJson(const std::vector<Change>& changes, const std
             entry["member"] = change.member;
             // The values as the tree shows them are JSON themselves, but for
             // a double that is no number.
-            for (const auto& [key, value] : {std::make_pair("old", &change.oldValue),
-                                             std::make_pair("new", &change.newValue)}) {
+            for (const auto& [key, value] :
+                 {std::make_pair("old", &change.oldValue), std::make_pair("new", &change.newValue)}) {
                 const nlohmann::ordered_json parsed = nlohmann::ordered_json::parse(*value, nullptr, false);
                 entry[key] = parsed.is_discarded() ? nlohmann::ordered_json(*value) : parsed;
             }

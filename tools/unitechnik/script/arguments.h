@@ -14,8 +14,8 @@ namespace ItUnitechnik::Tool::Script {
 // integer fields of each block in the order of its struct.
 using Records = std::vector<std::vector<std::int64_t>>;
 
-using Value = std::variant<std::int64_t, double, bool, HostText, std::vector<HostText>,
-                           std::vector<std::int32_t>, std::vector<double>, Records>;
+using Value = std::variant<std::int64_t, double, bool, HostText, std::vector<HostText>, std::vector<std::int32_t>,
+                           std::vector<double>, Records>;
 
 // The values of one call by key, the field of a block as "block.field". Once
 // a call is read, every key of its entry in the call table has a value, given

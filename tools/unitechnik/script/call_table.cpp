@@ -67,12 +67,15 @@ KeySpec Blocks(const char* name, std::vector<KeySpec> fields)
 // never read are no keys.
 std::vector<KeySpec> BarFields()
 {
-    return {Text("extraDesignation"), Text("designation"),     Integer("auxFourth", kInt32),
-            Integer("auxFifth", kInt32), Integer("auxSixth", kInt32), Integer("thirdSize", kInt32),
-            Integer("positionX", kInt32), Integer("positionY", kInt32), Integer("positionZ", kInt32),
-            Integer("firstSize", kUInt16), Integer("secondSize", kUInt16), Integer("rotation", kInt16),
-            Integer("auxFirst", kUInt16), Integer("segmentCount", kUInt16), Integer("rodKind", kUInt8),
-            Integer("notMounted", kUInt8), Integer("bendingCode", kUInt8)};
+    return {Text("extraDesignation"),       Text("designation"),
+            Integer("auxFourth", kInt32),   Integer("auxFifth", kInt32),
+            Integer("auxSixth", kInt32),    Integer("thirdSize", kInt32),
+            Integer("positionX", kInt32),   Integer("positionY", kInt32),
+            Integer("positionZ", kInt32),   Integer("firstSize", kUInt16),
+            Integer("secondSize", kUInt16), Integer("rotation", kInt16),
+            Integer("auxFirst", kUInt16),   Integer("segmentCount", kUInt16),
+            Integer("rodKind", kUInt8),     Integer("notMounted", kUInt8),
+            Integer("bendingCode", kUInt8)};
 }
 
 // The arguments as the exports take them; the table's ranges were checked
@@ -189,9 +192,9 @@ std::optional<Refusal> CheckDate(const Arguments& a)
         const Date date(std::wstring(text.begin(), text.end()), 600);
         (void)date;
     } catch (const std::exception& e) {
-        return Refusal{"texts[" + std::to_string(IT_PROJECT_DATE) + "]",
-                       "setProjectData cannot read the date \"" + HostToUtf8(text) + "\" (" + e.what()
-                           + "); write it as dd.mm.yyyy"};
+        return Refusal{"texts[" + std::to_string(IT_PROJECT_DATE) + "]", "setProjectData cannot read the date \"" +
+                                                                             HostToUtf8(text) + "\" (" + e.what() +
+                                                                             "); write it as dd.mm.yyyy"};
     }
     return std::nullopt;
 }
@@ -203,8 +206,7 @@ std::vector<CallSpec> MakeTable()
     table.push_back(CallSpec{
         "startOrder",
         {Integer("orderValue", kUInt16), Integer("elementNumberArg", kInt32), Reals("placement", 9),
-         Integer("version", kUInt16), Text("elementTextArg"), Real("elementMeasureArg"),
-         Boolean("clearDocument")},
+         Integer("version", kUInt16), Text("elementTextArg"), Real("elementMeasureArg"), Boolean("clearDocument")},
         {},
         nullptr,
         nullptr,
@@ -214,27 +216,20 @@ std::vector<CallSpec> MakeTable()
                                      a.Boolean("clearDocument")));
         }});
 
-    table.push_back(CallSpec{"endDocument",
-                             {Text("path")},
-                             {},
-                             "path",
-                             nullptr,
-                             [](const Arguments& a) { return Result(endDocument(Str(a, "path"))); }});
-
-    table.push_back(CallSpec{"setProjectData",
-                             {Texts("texts", IT_PROJECT_TEXT_COUNT)},
-                             {},
-                             nullptr,
-                             CheckDate,
-                             [](const Arguments& a) {
-                                 const std::vector<HostText>& texts = a.Texts("texts");
-                                 const it_char16* pointers[IT_PROJECT_TEXT_COUNT];
-                                 for (std::size_t i = 0; i < IT_PROJECT_TEXT_COUNT; ++i) {
-                                     pointers[i] = texts[i].c_str();
-                                 }
-                                 setProjectData(pointers);
-                                 return Nothing();
+    table.push_back(CallSpec{"endDocument", {Text("path")}, {}, "path", nullptr, [](const Arguments& a) {
+                                 return Result(endDocument(Str(a, "path")));
                              }});
+
+    table.push_back(CallSpec{
+        "setProjectData", {Texts("texts", IT_PROJECT_TEXT_COUNT)}, {}, nullptr, CheckDate, [](const Arguments& a) {
+            const std::vector<HostText>& texts = a.Texts("texts");
+            const it_char16* pointers[IT_PROJECT_TEXT_COUNT];
+            for (std::size_t i = 0; i < IT_PROJECT_TEXT_COUNT; ++i) {
+                pointers[i] = texts[i].c_str();
+            }
+            setProjectData(pointers);
+            return Nothing();
+        }});
 
     table.push_back(CallSpec{"setSlabInfoFields",
                              {Text("slabInfo1"), Text("slabInfo2"), Text("slabInfo3"), Text("slabInfo4")},
@@ -257,15 +252,11 @@ std::vector<CallSpec> MakeTable()
                                  return Nothing();
                              }});
 
-    table.push_back(CallSpec{"setDoubleWallGap",
-                             {Integer("doubleWallGap", kInt32)},
-                             {},
-                             nullptr,
-                             nullptr,
-                             [](const Arguments& a) {
-                                 setDoubleWallGap(I32(a, "doubleWallGap"));
-                                 return Nothing();
-                             }});
+    table.push_back(
+        CallSpec{"setDoubleWallGap", {Integer("doubleWallGap", kInt32)}, {}, nullptr, nullptr, [](const Arguments& a) {
+                     setDoubleWallGap(I32(a, "doubleWallGap"));
+                     return Nothing();
+                 }});
 
     table.push_back(CallSpec{"addLayer",
                              {Integer("layerKind", kUInt16), Real("thicknessMetres"), Real("firstFactor"),
@@ -289,37 +280,36 @@ std::vector<CallSpec> MakeTable()
                                  return Nothing();
                              }});
 
-    table.push_back(CallSpec{
-        "addCutout",
-        {Block("block", {Text("cutoutName"), Real("cutoutValue"), Integer("pointCount", kUInt16)}),
-         Integers("points", 0)},
-        {{"block.pointCount", "points", 2, "points", "integers", CutoutPointsRead}},
-        nullptr,
-        nullptr,
-        [](const Arguments& a) {
-            ItCutoutBlock block{};
-            block.cutoutName = Str(a, "block.cutoutName");
-            block.cutoutValue = a.Real("block.cutoutValue");
-            block.pointCount = U16(a, "block.pointCount");
-            addCutout(&block, IntegerData(a.Integers("points")));
-            return Nothing();
-        }});
+    table.push_back(CallSpec{"addCutout",
+                             {Block("block", {Text("cutoutName"), Real("cutoutValue"), Integer("pointCount", kUInt16)}),
+                              Integers("points", 0)},
+                             {{"block.pointCount", "points", 2, "points", "integers", CutoutPointsRead}},
+                             nullptr,
+                             nullptr,
+                             [](const Arguments& a) {
+                                 ItCutoutBlock block{};
+                                 block.cutoutName = Str(a, "block.cutoutName");
+                                 block.cutoutValue = a.Real("block.cutoutValue");
+                                 block.pointCount = U16(a, "block.pointCount");
+                                 addCutout(&block, IntegerData(a.Integers("points")));
+                                 return Nothing();
+                             }});
 
-    table.push_back(CallSpec{
-        "addSet",
-        {Integer("setKind", kInt32), Text("setName"), Integer("valueCount", kInt32), Integers("values", 0)},
-        {{"valueCount", "values", 1, "values", "integers", SetValuesRead}},
-        nullptr,
-        nullptr,
-        [](const Arguments& a) {
-            return Result(addSet(I32(a, "setKind"), Str(a, "setName"), I32(a, "valueCount"),
-                                 IntegerData(a.Integers("values"))));
-        }});
+    table.push_back(
+        CallSpec{"addSet",
+                 {Integer("setKind", kInt32), Text("setName"), Integer("valueCount", kInt32), Integers("values", 0)},
+                 {{"valueCount", "values", 1, "values", "integers", SetValuesRead}},
+                 nullptr,
+                 nullptr,
+                 [](const Arguments& a) {
+                     return Result(addSet(I32(a, "setKind"), Str(a, "setName"), I32(a, "valueCount"),
+                                          IntegerData(a.Integers("values"))));
+                 }});
 
     table.push_back(CallSpec{"addSteelmat",
                              {Text("name"), Integer("firstDimension", kInt32), Integer("secondDimension", kInt32),
-                              Integer("firstFlag", kInt32), Integer("secondFlag", kInt32),
-                              Integer("matKind", kInt32), Integers("position", 3)},
+                              Integer("firstFlag", kInt32), Integer("secondFlag", kInt32), Integer("matKind", kInt32),
+                              Integers("position", 3)},
                              {},
                              nullptr,
                              nullptr,
@@ -330,68 +320,63 @@ std::vector<CallSpec> MakeTable()
                                                            a.Integers("position").data()));
                              }});
 
+    table.push_back(CallSpec{"addCFSRodstock",
+                             {Integer("rodKind", kInt32), Text("designation"), Integer("firstSize", kInt32),
+                              Integer("secondSize", kInt32), Integer("thirdSize", kInt32), Integers("position", 3),
+                              Integer("positionZ", kInt32), Integer("rotation", kInt32), Text("extraDesignation"),
+                              Integer("mountFlag", kInt32), Integer("auxFirst", kInt32), Integer("auxFourth", kInt32),
+                              Integer("auxFifth", kInt32), Integer("flagsCode", kInt32)},
+                             {},
+                             nullptr,
+                             nullptr,
+                             [](const Arguments& a) {
+                                 return Result(addCFSRodstock(
+                                     I32(a, "rodKind"), Str(a, "designation"), I32(a, "firstSize"),
+                                     I32(a, "secondSize"), I32(a, "thirdSize"), a.Integers("position").data(),
+                                     I32(a, "positionZ"), I32(a, "rotation"), Str(a, "extraDesignation"),
+                                     I32(a, "mountFlag"), I32(a, "auxFirst"), I32(a, "auxFourth"), I32(a, "auxFifth"),
+                                     I32(a, "flagsCode")));
+                             }});
+
+    table.push_back(
+        CallSpec{"addStraightRodstock", {Block("bar", BarFields())}, {}, nullptr, nullptr, [](const Arguments& a) {
+                     const ItBarBlock bar = BarBlock(a);
+                     addStraightRodstock(&bar);
+                     return Nothing();
+                 }});
+
+    table.push_back(
+        CallSpec{"addFreeFormRodstock",
+                 {Block("bar", BarFields()), Blocks("segments", {Integer("length", kInt32), Integer("angle", kInt16)})},
+                 {{"bar.segmentCount", "segments", 1, "segments", "segments", SegmentsRead}},
+                 nullptr,
+                 nullptr,
+                 [](const Arguments& a) {
+                     const ItBarBlock bar = BarBlock(a);
+                     std::vector<ItFreeFormSegment> segments;
+                     for (const std::vector<std::int64_t>& entry : a.Blocks("segments")) {
+                         ItFreeFormSegment segment{};
+                         segment.length = static_cast<std::int32_t>(entry[0]);
+                         segment.angle = static_cast<std::int16_t>(entry[1]);
+                         segments.push_back(segment);
+                     }
+                     if (segments.empty()) {
+                         // A valid pointer even when the export reads no entry.
+                         segments.push_back(ItFreeFormSegment{});
+                     }
+                     addFreeFormRodstock(&bar, segments.data());
+                     return Nothing();
+                 }});
+
     table.push_back(CallSpec{
-        "addCFSRodstock",
-        {Integer("rodKind", kInt32), Text("designation"), Integer("firstSize", kInt32),
-         Integer("secondSize", kInt32), Integer("thirdSize", kInt32), Integers("position", 3),
-         Integer("positionZ", kInt32), Integer("rotation", kInt32), Text("extraDesignation"),
-         Integer("mountFlag", kInt32), Integer("auxFirst", kInt32), Integer("auxFourth", kInt32),
-         Integer("auxFifth", kInt32), Integer("flagsCode", kInt32)},
+        "addExtIron",
+        {Integer("ironCode", kInt32), Integer("ironCount", kInt32), Real("ironValue"), Text("ironText")},
         {},
         nullptr,
         nullptr,
         [](const Arguments& a) {
-            return Result(addCFSRodstock(I32(a, "rodKind"), Str(a, "designation"), I32(a, "firstSize"),
-                                         I32(a, "secondSize"), I32(a, "thirdSize"), a.Integers("position").data(),
-                                         I32(a, "positionZ"), I32(a, "rotation"), Str(a, "extraDesignation"),
-                                         I32(a, "mountFlag"), I32(a, "auxFirst"), I32(a, "auxFourth"),
-                                         I32(a, "auxFifth"), I32(a, "flagsCode")));
+            return Result(addExtIron(I32(a, "ironCode"), I32(a, "ironCount"), a.Real("ironValue"), Str(a, "ironText")));
         }});
-
-    table.push_back(CallSpec{"addStraightRodstock",
-                             {Block("bar", BarFields())},
-                             {},
-                             nullptr,
-                             nullptr,
-                             [](const Arguments& a) {
-                                 const ItBarBlock bar = BarBlock(a);
-                                 addStraightRodstock(&bar);
-                                 return Nothing();
-                             }});
-
-    table.push_back(CallSpec{
-        "addFreeFormRodstock",
-        {Block("bar", BarFields()), Blocks("segments", {Integer("length", kInt32), Integer("angle", kInt16)})},
-        {{"bar.segmentCount", "segments", 1, "segments", "segments", SegmentsRead}},
-        nullptr,
-        nullptr,
-        [](const Arguments& a) {
-            const ItBarBlock bar = BarBlock(a);
-            std::vector<ItFreeFormSegment> segments;
-            for (const std::vector<std::int64_t>& entry : a.Blocks("segments")) {
-                ItFreeFormSegment segment{};
-                segment.length = static_cast<std::int32_t>(entry[0]);
-                segment.angle = static_cast<std::int16_t>(entry[1]);
-                segments.push_back(segment);
-            }
-            if (segments.empty()) {
-                // A valid pointer even when the export reads no entry.
-                segments.push_back(ItFreeFormSegment{});
-            }
-            addFreeFormRodstock(&bar, segments.data());
-            return Nothing();
-        }});
-
-    table.push_back(CallSpec{"addExtIron",
-                             {Integer("ironCode", kInt32), Integer("ironCount", kInt32), Real("ironValue"),
-                              Text("ironText")},
-                             {},
-                             nullptr,
-                             nullptr,
-                             [](const Arguments& a) {
-                                 return Result(addExtIron(I32(a, "ironCode"), I32(a, "ironCount"),
-                                                          a.Real("ironValue"), Str(a, "ironText")));
-                             }});
 
     table.push_back(CallSpec{"getFullReinforcementString", {}, {}, nullptr, nullptr, [](const Arguments&) {
                                  return Outcome{std::nullopt, TakeFullReinforcementString()};

@@ -20,8 +20,8 @@ void RunCalls(const std::vector<Call>& calls, RunObserver& observer)
         observer.Called(call, outcome);
         if (path) {
             if (!writable || !FileIsThere(*path)) {
-                throw FileError("call " + std::to_string(call.index) + " (" + call.callEntry->name + "): cannot write \""
-                                + *path + "\"");
+                throw FileError("call " + std::to_string(call.index) + " (" + call.callEntry->name +
+                                "): cannot write \"" + *path + "\"");
             }
             observer.Wrote(*path);
         }

@@ -195,9 +195,8 @@ private:
         if (value.is_number_unsigned() && value.get<std::uint64_t>() > static_cast<std::uint64_t>(type.most)) {
             Fail(path, value.dump() + " is out of range for " + Range(type));
         }
-        const std::int64_t number = value.is_number_unsigned()
-                                        ? static_cast<std::int64_t>(value.get<std::uint64_t>())
-                                        : value.get<std::int64_t>();
+        const std::int64_t number = value.is_number_unsigned() ? static_cast<std::int64_t>(value.get<std::uint64_t>())
+                                                               : value.get<std::int64_t>();
         if (number < type.least || number > type.most) {
             Fail(path, value.dump() + " is out of range for " + Range(type));
         }
@@ -240,8 +239,8 @@ private:
             break;
         case ValueKind::Texts: {
             if (value.size() > key.length) {
-                Fail(path, "holds " + std::to_string(value.size()) + " texts; " + spec_.name + " takes at most "
-                               + std::to_string(key.length));
+                Fail(path, "holds " + std::to_string(value.size()) + " texts; " + spec_.name + " takes at most " +
+                               std::to_string(key.length));
             }
             std::vector<HostText> texts;
             for (std::size_t i = 0; i < value.size(); ++i) {
@@ -253,8 +252,8 @@ private:
         }
         case ValueKind::Integers: {
             if (key.length != 0 && value.size() > key.length) {
-                Fail(path, "holds " + std::to_string(value.size()) + " integers; " + spec_.name + " reads "
-                               + std::to_string(key.length));
+                Fail(path, "holds " + std::to_string(value.size()) + " integers; " + spec_.name + " reads " +
+                               std::to_string(key.length));
             }
             std::vector<std::int32_t> integers;
             for (std::size_t i = 0; i < value.size(); ++i) {
@@ -267,8 +266,8 @@ private:
         }
         case ValueKind::Reals: {
             if (value.size() > key.length) {
-                Fail(path, "holds " + std::to_string(value.size()) + " numbers; " + spec_.name + " reads "
-                               + std::to_string(key.length));
+                Fail(path, "holds " + std::to_string(value.size()) + " numbers; " + spec_.name + " reads " +
+                               std::to_string(key.length));
             }
             std::vector<double> reals;
             for (std::size_t i = 0; i < value.size(); ++i) {
@@ -313,9 +312,8 @@ private:
                 std::vector<std::int64_t> fields;
                 for (const KeySpec& field : key.fields) {
                     const auto found = block.find(field.name);
-                    fields.push_back(found == block.end()
-                                         ? 0
-                                         : ReadInteger(*field.type, *found, entry + "." + field.name));
+                    fields.push_back(found == block.end() ? 0
+                                                          : ReadInteger(*field.type, *found, entry + "." + field.name));
                 }
                 records.push_back(std::move(fields));
             }
@@ -377,15 +375,15 @@ private:
         const std::int64_t length = ListLength(counted, arguments);
         if (given_.count(counted.count) == 0) {
             if (length % counted.entriesPerUnit != 0) {
-                Fail(counted.list, std::to_string(length) + " " + counted.entryName + " are no whole number of "
-                                       + counted.unitName + " (" + std::to_string(counted.entriesPerUnit)
-                                       + " each), so no count follows from them");
+                Fail(counted.list, std::to_string(length) + " " + counted.entryName + " are no whole number of " +
+                                       counted.unitName + " (" + std::to_string(counted.entriesPerUnit) +
+                                       " each), so no count follows from them");
             }
             const std::int64_t count = length / counted.entriesPerUnit;
             const IntegerType& type = *SpecOf(counted.count).type;
             if (count > type.most) {
-                Fail(counted.count, "the " + std::to_string(count) + " " + counted.unitName + " of "
-                                        + Quoted(counted.list) + " are more than " + Range(type) + " holds");
+                Fail(counted.count, "the " + std::to_string(count) + " " + counted.unitName + " of " +
+                                        Quoted(counted.list) + " are more than " + Range(type) + " holds");
             }
             arguments.Set(counted.count, count);
         }
@@ -397,11 +395,11 @@ private:
             padded_.push_back(Padding{&counted, arguments.Integer(counted.count), length, reads});
         }
         if (reads - length > paddingLeft_) {
-            Fail(counted.count, std::to_string(arguments.Integer(counted.count)) + " " + counted.unitName + " make "
-                                    + spec_.name + " read " + std::to_string(reads) + " " + counted.entryName
-                                    + " of " + Quoted(counted.list) + ", which holds " + std::to_string(length)
-                                    + ": padding passes the " + std::to_string(kMostPadding)
-                                    + " zeros a script may be padded with");
+            Fail(counted.count, std::to_string(arguments.Integer(counted.count)) + " " + counted.unitName + " make " +
+                                    spec_.name + " read " + std::to_string(reads) + " " + counted.entryName + " of " +
+                                    Quoted(counted.list) + ", which holds " + std::to_string(length) +
+                                    ": padding passes the " + std::to_string(kMostPadding) +
+                                    " zeros a script may be padded with");
         }
         paddingLeft_ -= reads - length;
         const auto size = static_cast<std::size_t>(reads);
@@ -457,9 +455,9 @@ std::vector<Call> ReadCalls(const json& script)
         }
         const std::string& callName = name->get_ref<const std::string&>();
         if (callName == kFreeCall) {
-            throw BadInput(place + ": " + callName
-                           + " is no call of a script: the tool gives every result of "
-                             "getFullReinforcementString back through it itself");
+            throw BadInput(place + ": " + callName +
+                           " is no call of a script: the tool gives every result of "
+                           "getFullReinforcementString back through it itself");
         }
         const CallSpec* callEntry = FindCall(callName);
         if (callEntry == nullptr) {
@@ -494,8 +492,8 @@ void CheckPaths(const std::vector<Call>& calls)
 {
     for (const Call& call : calls) {
         if (call.callEntry->pathKey != nullptr && call.arguments.Text(call.callEntry->pathKey).empty()) {
-            throw BadInput(KeyPlace(call.index, call.callEntry->name, call.callEntry->pathKey)
-                           + ": no file name (give one, or -o FILE for the last endDocument)");
+            throw BadInput(KeyPlace(call.index, call.callEntry->name, call.callEntry->pathKey) +
+                           ": no file name (give one, or -o FILE for the last endDocument)");
         }
     }
 }

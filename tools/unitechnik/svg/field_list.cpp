@@ -139,13 +139,34 @@ FieldList Flattened(R record)
 
 } // namespace
 
-FieldList FieldsOf(const Contour& record) { return Flattened(record); }
-FieldList FieldsOf(const Cutout& record) { return Flattened(record); }
-FieldList FieldsOf(const MountingPart& record) { return Flattened(record); }
-FieldList FieldsOf(const Rodstock& record) { return Flattened(record); }
-FieldList FieldsOf(const BracedGirder& record) { return Flattened(record); }
-FieldList FieldsOf(const Steelmat& record) { return Flattened(record); }
-FieldList FieldsOf(const ExternalIron& record) { return Flattened(record); }
+FieldList FieldsOf(const Contour& record)
+{
+    return Flattened(record);
+}
+FieldList FieldsOf(const Cutout& record)
+{
+    return Flattened(record);
+}
+FieldList FieldsOf(const MountingPart& record)
+{
+    return Flattened(record);
+}
+FieldList FieldsOf(const Rodstock& record)
+{
+    return Flattened(record);
+}
+FieldList FieldsOf(const BracedGirder& record)
+{
+    return Flattened(record);
+}
+FieldList FieldsOf(const Steelmat& record)
+{
+    return Flattened(record);
+}
+FieldList FieldsOf(const ExternalIron& record)
+{
+    return Flattened(record);
+}
 
 std::string FieldLines(const FieldList& fields)
 {

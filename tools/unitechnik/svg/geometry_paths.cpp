@@ -282,8 +282,7 @@ std::vector<PointD> BarPoints(const Rodstock& bar)
     if (bar.bendingKind == L'2') {
         for (const BendingFormPart& part : bar.freeForm.parts) {
             for (const BendingFormSegment& segment : part.segments) {
-                points.push_back(Along(points.back(),
-                                       direction + static_cast<double>(kPlant.segmentAngle.Of(segment)),
+                points.push_back(Along(points.back(), direction + static_cast<double>(kPlant.segmentAngle.Of(segment)),
                                        static_cast<double>(kPlant.segmentLength.Of(segment))));
             }
         }

@@ -43,7 +43,8 @@ void AddRow(std::string& out, const Item& item)
 
 std::string RecordTable(const Scene& scene)
 {
-    std::string out = "<table class=\"record-table\">\n<tr><th>Id</th><th>Record</th><th>What</th><th>Fields</th></tr>\n";
+    std::string out =
+        "<table class=\"record-table\">\n<tr><th>Id</th><th>Record</th><th>What</th><th>Fields</th></tr>\n";
     for (const Item& item : scene.items) {
         AddRow(out, item);
     }
@@ -92,8 +93,9 @@ std::string HtmlPage(const std::vector<Scene>& scenes, const std::vector<Bom::El
         heading = Heading(scenes[0]);
     }
     std::string out = "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>" +
-                      Escaped(heading) + "</title>\n<style>\n" + PageStyle() + "</style>\n</head>\n<body>\n<header><h1>" +
-                      Escaped(heading) + "</h1></header>\n<main>\n<section class=\"drawing\">\n";
+                      Escaped(heading) + "</title>\n<style>\n" + PageStyle() +
+                      "</style>\n</head>\n<body>\n<header><h1>" + Escaped(heading) +
+                      "</h1></header>\n<main>\n<section class=\"drawing\">\n";
     SvgOptions options;
     options.captions = scenes.size() > 1;
     options.xmlDeclaration = false;

@@ -22,14 +22,26 @@ std::string Escaped(const std::string& text)
     out.reserve(text.size());
     for (const char c : text) {
         switch (c) {
-        case '&': out += "&amp;"; break;
-        case '<': out += "&lt;"; break;
-        case '>': out += "&gt;"; break;
-        case '"': out += "&quot;"; break;
-        case '\'': out += "&#39;"; break;
+        case '&':
+            out += "&amp;";
+            break;
+        case '<':
+            out += "&lt;";
+            break;
+        case '>':
+            out += "&gt;";
+            break;
+        case '"':
+            out += "&quot;";
+            break;
+        case '\'':
+            out += "&#39;";
+            break;
         case '\t':
         case '\n':
-        case '\r': out += c; break;
+        case '\r':
+            out += c;
+            break;
         default:
             // A control character has no place in XML: it shows as U+FFFD.
             if (static_cast<unsigned char>(c) < 0x20) {

@@ -140,8 +140,8 @@ std::string Path(const char* shapeClass, const std::string& data, const std::str
 
 std::string Rect(const char* shapeClass, const BoxD& box)
 {
-    return "<rect class=\"" + std::string(shapeClass) + "\" x=\"" + Number(box.minX) + "\" y=\"" +
-           Number(box.minY) + "\" width=\"" + Number(box.Width()) + "\" height=\"" + Number(box.Height()) + "\"/>";
+    return "<rect class=\"" + std::string(shapeClass) + "\" x=\"" + Number(box.minX) + "\" y=\"" + Number(box.minY) +
+           "\" width=\"" + Number(box.Width()) + "\" height=\"" + Number(box.Height()) + "\"/>";
 }
 
 // The items, in drawing order.
@@ -181,8 +181,7 @@ public:
             // undoes the drawing's flip.
             item.shapes += "<text class=\"part-name\" x=\"" + Number((box.minX + box.maxX) / 2.0) + "\" y=\"" +
                            Number(-(box.maxY + 0.4 * scene_.textSize)) + "\" font-size=\"" +
-                           Number(0.8 * scene_.textSize) + "\" transform=\"scale(1 -1)\">" + Escaped(name) +
-                           "</text>";
+                           Number(0.8 * scene_.textSize) + "\" transform=\"scale(1 -1)\">" + Escaped(name) + "</text>";
         }
         scene_.items.push_back(std::move(item));
     }
@@ -256,10 +255,9 @@ private:
         const std::vector<PointD> points = BarPoints(bar);
         const std::string shape =
             bar.bendingKind == L'2' ? "bent in " + std::to_string(points.size() - 1) + " segments" : "straight";
-        item.summary = Named(Tree::Shown(bar.designation), "diameter " +
-                                                               std::to_string(kPlant.barDiameter.Of(bar)) + ", " +
-                                                               std::to_string(kPlant.barLength.Of(bar)) + " mm, " +
-                                                               shape);
+        item.summary =
+            Named(Tree::Shown(bar.designation), "diameter " + std::to_string(kPlant.barDiameter.Of(bar)) + ", " +
+                                                    std::to_string(kPlant.barLength.Of(bar)) + " mm, " + shape);
         // The diameter is the stroke's width, in the drawing's millimetres.
         const double diameter = std::abs(static_cast<double>(kPlant.barDiameter.Of(bar)));
         item.shapes = Path(shapeClass, PolylinePath(points), " stroke-width=\"" + Number(diameter) + "\"");
@@ -270,10 +268,9 @@ private:
     {
         Item item = Make(prefix, "bracedgirder", girder.number, FieldsOf(girder));
         item.label = label + std::to_string(girder.number);
-        item.summary = Named(Tree::Shown(girder.designation), "type " +
-                                                                  std::to_string(kPlant.girderType.Of(girder)) + ", " +
-                                                                  std::to_string(kPlant.girderLength.Of(girder)) +
-                                                                  " mm");
+        item.summary =
+            Named(Tree::Shown(girder.designation), "type " + std::to_string(kPlant.girderType.Of(girder)) + ", " +
+                                                       std::to_string(kPlant.girderLength.Of(girder)) + " mm");
         const GirderPaths paths = GirderDrawing(girder);
         item.shapes = Path("girder-chord", paths.chords, " stroke-width=\"8\"") +
                       Path("girder-lattice", paths.lattice, " stroke-width=\"5\"");

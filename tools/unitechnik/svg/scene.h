@@ -13,12 +13,13 @@
 namespace ItUnitechnik::Drawing {
 
 struct Item {
-    std::string id;      // names the record and its number: "contour-1", "steelmat-1-rodstock-2"
-    std::string kind;    // the class of its group: contour, cutout, mountingpart, steelmat, rodstock, bracedgirder, externaliron
-    std::string label;   // "Contour 1", "Mat 1, bar 2"
-    std::string summary; // what a person looks for first
-    FieldList fields;    // every field of the record
-    std::string shapes;  // SVG elements in the file's coordinates; empty for what is not drawn
+    std::string id; // names the record and its number: "contour-1", "steelmat-1-rodstock-2"
+    std::string
+        kind; // the class of its group: contour, cutout, mountingpart, steelmat, rodstock, bracedgirder, externaliron
+    std::string label;       // "Contour 1", "Mat 1, bar 2"
+    std::string summary;     // what a person looks for first
+    FieldList fields;        // every field of the record
+    std::string shapes;      // SVG elements in the file's coordinates; empty for what is not drawn
     std::vector<Item> parts; // a mat's bars and girders
 };
 

@@ -63,11 +63,21 @@ std::string Legend(double left, double top, double fs)
         const double y = top + (row + 1) * kLineHeight * fs;
         std::string swatch;
         switch (row) {
-        case 0: swatch = rect("outline", y); break;
-        case 1: swatch = rect("opening", y); break;
-        case 2: swatch = rect("part-box", y); break;
-        case 3: swatch = line("bar", y, 0.3 * fs); break;
-        case 4: swatch = rect("mat", y) + line("mat-bar", y, 0.2 * fs); break;
+        case 0:
+            swatch = rect("outline", y);
+            break;
+        case 1:
+            swatch = rect("opening", y);
+            break;
+        case 2:
+            swatch = rect("part-box", y);
+            break;
+        case 3:
+            swatch = line("bar", y, 0.3 * fs);
+            break;
+        case 4:
+            swatch = rect("mat", y) + line("mat-bar", y, 0.2 * fs);
+            break;
         default:
             swatch = "<path class=\"girder-chord\" d=\"M " + Number(left) + " " + Number(y - h) + " L " +
                      Number(left + w) + " " + Number(y - h) + " M " + Number(left) + " " + Number(y) + " L " +
@@ -84,8 +94,7 @@ std::string TitleBlock(const Scene& scene, double left, double top, double width
     const std::vector<std::string> lines = TitleLines(scene);
     const double height = (static_cast<double>(lines.size()) + 0.6) * kLineHeight * fs;
     std::string out = "<g class=\"titleblock\"><rect class=\"titleblock-frame\" x=\"" + Number(left) + "\" y=\"" +
-                      Number(top + 0.5 * fs) + "\" width=\"" + Number(width) + "\" height=\"" + Number(height) +
-                      "\"/>";
+                      Number(top + 0.5 * fs) + "\" width=\"" + Number(width) + "\" height=\"" + Number(height) + "\"/>";
     for (std::size_t i = 0; i < lines.size(); ++i) {
         out += Text(i == 0 ? "title-line title-main" : "title-line", left + 0.6 * fs,
                     top + (static_cast<double>(i) + 1.0) * kLineHeight * fs, fs, lines[i]);

@@ -12,8 +12,8 @@
 namespace ItUnitechnik::Drawing {
 
 struct SvgOptions {
-    bool captions = false;       // a line "Order ..., element ..." above each drawing
-    bool xmlDeclaration = true;  // false for an SVG inside an HTML page
+    bool captions = false;      // a line "Order ..., element ..." above each drawing
+    bool xmlDeclaration = true; // false for an SVG inside an HTML page
 };
 
 std::string SvgDocument(const std::vector<Scene>& scenes, const SvgOptions& options = {});

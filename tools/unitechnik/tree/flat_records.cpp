@@ -328,9 +328,10 @@ void RecordIndex::Add(const FlatList& list)
 
 std::optional<RecordIndex::Where> RecordIndex::Find(const void* record) const
 {
-    const auto found = std::lower_bound(
-        entries_.begin(), entries_.end(), record,
-        [](const std::pair<const void*, Where>& entry, const void* key) { return std::less<const void*>()(entry.first, key); });
+    const auto found = std::lower_bound(entries_.begin(), entries_.end(), record,
+                                        [](const std::pair<const void*, Where>& entry, const void* key) {
+                                            return std::less<const void*>()(entry.first, key);
+                                        });
     if (found == entries_.end() || found->first != record) {
         return std::nullopt;
     }

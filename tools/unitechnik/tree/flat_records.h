@@ -20,7 +20,7 @@ namespace ItUnitechnik::Tree {
 using Owner = std::pair<const void*, std::string>;
 
 struct FlatField {
-    std::string name;  // from its record: "orderNumber", "date.day", "curve.start.x"
+    std::string name; // from its record: "orderNumber", "date.day", "curve.start.x"
     // A number as a number; a text as a JSON string without the blanks that
     // fill its field (a text read from a file holds them, one from the
     // exports does not); a character as a JSON string; true or false.
@@ -33,8 +33,8 @@ struct FlatField {
 struct FlatList;
 
 struct FlatRecord {
-    std::string path;                  // "orders[0].elementParts[0].cutoutData.cutouts[1]"
-    const void* address = nullptr;     // the record object
+    std::string path;              // "orders[0].elementParts[0].cutoutData.cutouts[1]"
+    const void* address = nullptr; // the record object
     std::vector<FlatField> fields;
     std::vector<FlatList> lists;
     // The records it holds singly, with the prefix of their members' names:
@@ -43,7 +43,7 @@ struct FlatRecord {
 };
 
 struct FlatList {
-    std::string name;                  // from the record that holds it: "cutoutData.cutouts"
+    std::string name; // from the record that holds it: "cutoutData.cutouts"
     std::vector<FlatRecord> records;
 };
 

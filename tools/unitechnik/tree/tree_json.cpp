@@ -1,8 +1,8 @@
 #include "tree/tree_json.h"
 
 #include "platform/platform.h"
-#include "unicode.h"
 #include "tree/record_fields.h"
+#include "unicode.h"
 
 #include <cmath>
 #include <limits>
@@ -318,8 +318,7 @@ private:
         if (word == "nan" || word == "-nan") {
             value = std::copysign(std::numeric_limits<double>::quiet_NaN(), word == "nan" ? 1.0 : -1.0);
         } else if (word == "inf" || word == "-inf") {
-            value = word == "inf" ? std::numeric_limits<double>::infinity()
-                                  : -std::numeric_limits<double>::infinity();
+            value = word == "inf" ? std::numeric_limits<double>::infinity() : -std::numeric_limits<double>::infinity();
         } else {
             throw TreeError(path, "expected a number, or \"nan\", \"-nan\", \"inf\" or \"-inf\"");
         }

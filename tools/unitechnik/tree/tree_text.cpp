@@ -159,13 +159,12 @@ private:
 
     void Parts(int depth, const MountingPartData& data)
     {
-        Line(depth, "MOUNPART version " + std::to_string(data.version) + ", " +
-                        Counted(data.parts.size(), "part", "parts"));
+        Line(depth,
+             "MOUNPART version " + std::to_string(data.version) + ", " + Counted(data.parts.size(), "part", "parts"));
         for (const MountingPart& part : data.parts) {
             Line(depth + 1, "part " + std::to_string(part.partNumber) + " " + Quoted(part.partName) + ", " +
-                                std::to_string(part.partWidth) + " x " + std::to_string(part.partHeight) +
-                                ", values " + std::to_string(part.setValue1) + " and " +
-                                std::to_string(part.setValue2) + ", " +
+                                std::to_string(part.partWidth) + " x " + std::to_string(part.partHeight) + ", values " +
+                                std::to_string(part.setValue1) + " and " + std::to_string(part.setValue2) + ", " +
                                 Counted(part.geoData.size(), "piece", "pieces"));
             Pieces(depth + 2, part.geoData);
         }
@@ -173,7 +172,8 @@ private:
 
     void Bars(int depth, const RodstockData& data)
     {
-        Line(depth, "RODSTOCK version " + std::to_string(data.version) + ", " + Counted(data.bars.size(), "bar", "bars"));
+        Line(depth,
+             "RODSTOCK version " + std::to_string(data.version) + ", " + Counted(data.bars.size(), "bar", "bars"));
         for (const Rodstock& bar : data.bars) {
             std::string text = "bar " + std::to_string(bar.number) + " " + Quoted(bar.designation) + ", sizes " +
                                std::to_string(bar.firstSize) + ", " + std::to_string(bar.secondSize) + ", " +
@@ -200,15 +200,15 @@ private:
         for (const BracedGirder& girder : data.girders) {
             Line(depth + 1, "girder " + std::to_string(girder.number) + " " + Quoted(girder.designation) + ", type " +
                                 std::to_string(girder.typeNumber) + ", length " + std::to_string(girder.firstSize) +
-                                ", at " + At(girder.position.x, girder.position.y, girder.positionZ) +
-                                ", rotation " + std::to_string(girder.rotation));
+                                ", at " + At(girder.position.x, girder.position.y, girder.positionZ) + ", rotation " +
+                                std::to_string(girder.rotation));
         }
     }
 
     void Irons(int depth, const ExternalIronData& data)
     {
-        Line(depth, "EXTIRON_ version " + std::to_string(data.version) + ", " +
-                        Counted(data.irons.size(), "iron", "irons"));
+        Line(depth,
+             "EXTIRON_ version " + std::to_string(data.version) + ", " + Counted(data.irons.size(), "iron", "irons"));
         for (const ExternalIron& iron : data.irons) {
             Line(depth + 1, "iron " + std::to_string(iron.ironNumber) + " " + Quoted(iron.ironText) + ", code " +
                                 std::to_string(iron.ironCode) + ", count " + std::to_string(iron.ironCount) +
@@ -218,7 +218,8 @@ private:
 
     void Block(int depth, const Reinforcement& block)
     {
-        Line(depth, "REFORCEM version " + std::to_string(block.version) + ", " + Counted(block.mats.size(), "mat", "mats"));
+        Line(depth,
+             "REFORCEM version " + std::to_string(block.version) + ", " + Counted(block.mats.size(), "mat", "mats"));
         for (const Steelmat& mat : block.mats) {
             Line(depth + 1, "STEELMAT version " + std::to_string(mat.version) + ", mat " + std::to_string(mat.number) +
                                 " " + Quoted(mat.name) + ", " + std::to_string(mat.firstDimension) + " x " +
