@@ -4,6 +4,7 @@
 #include "exports/host_text.h"
 
 #include <cmath>
+#include <cstddef>
 #include <string>
 #include <utility>
 
@@ -29,7 +30,7 @@ try {
 
     ElementPart element;
     Point3d* const points[3] = {&element.firstPoint, &element.secondPoint, &element.thirdPoint};
-    for (int i = 0; i < 3; ++i) {
+    for (std::size_t i = 0; i < 3; ++i) {
         points[i]->x = ItUnitechnik::TruncateToInt32(std::round(placement[3 * i]));
         points[i]->y = ItUnitechnik::TruncateToInt32(std::round(placement[3 * i + 1]));
         points[i]->z = ItUnitechnik::TruncateToInt32(std::round(placement[3 * i + 2]));

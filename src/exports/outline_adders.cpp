@@ -5,6 +5,7 @@
 #include "geometry/bounding_box.h"
 #include "geometry/line_segment.h"
 
+#include <cstddef>
 #include <memory>
 #include <utility>
 
@@ -36,7 +37,8 @@ template <class Owner>
 void AddChain(Owner& owner, int32_t pointCount, const int32_t* points)
 {
     for (int32_t i = 1; i < pointCount; ++i) {
-        AddStraightPiece(owner, points[2 * (i - 1)], points[2 * (i - 1) + 1], points[2 * i], points[2 * i + 1]);
+        const int32_t* const from = points + 2 * static_cast<std::ptrdiff_t>(i - 1);
+        AddStraightPiece(owner, from[0], from[1], from[2], from[3]);
     }
 }
 
@@ -59,7 +61,7 @@ int32_t AddMountingPart(ElementPart& element, const it_char16* setName, int32_t 
         // A count that is not 2 plus a multiple of 4 is rounded up to whole pieces.
         const uint32_t pieces = (static_cast<uint32_t>(valueCount) - 3u) / 4u + 1u;
         for (uint32_t k = 0; k < pieces; ++k) {
-            const int32_t* piece = values + 2 + 4 * k;
+            const int32_t* piece = values + 2 + 4 * static_cast<std::size_t>(k);
             box.widen(Point2d(piece[0], piece[1]));
             box.widen(Point2d(piece[2], piece[3]));
             AddStraightPiece(part, piece[0], piece[1], piece[2], piece[3]);

@@ -25,7 +25,7 @@ namespace ItUnitechnik {
 // the last one for a character above U+00FF.
 class DocumentFileBuffer : public FieldBuffer {
 public:
-    static constexpr std::size_t defaultAreaSize = 32 * 1024; // characters; 64 KiB of file or less
+    static constexpr std::size_t defaultAreaSize = std::size_t{32} * 1024; // characters; 64 KiB of file or less
 
     // Opens the file for output only, cutting an existing one. The put area
     // holds `areaSize` characters (at least one).

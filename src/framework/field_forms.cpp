@@ -9,7 +9,7 @@ namespace {
 std::wstring_view FirstCharacters(const std::wstring& value, int width)
 {
     if (width < 0) {
-        return std::wstring_view();
+        return {};
     }
     return std::wstring_view(value).substr(0, static_cast<std::size_t>(width));
 }

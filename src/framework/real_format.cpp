@@ -133,7 +133,7 @@ std::size_t FixedCharacters(double value, int precision, bool showpoint, char* o
 
 std::locale ClassicNumberLocale()
 {
-    return std::locale(std::locale::classic(), new RealFormat);
+    return {std::locale::classic(), new RealFormat};
 }
 
 } // namespace ItUnitechnik

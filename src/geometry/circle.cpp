@@ -76,8 +76,8 @@ void Circle::mirrorX(const std::int32_t& c)
 
 BoundingBox Circle::boundingBox() const
 {
-    return BoundingBox(Point2d(WrappingSubtract(centre.x, radius), WrappingSubtract(centre.y, radius)),
-                       Point2d(WrappingAdd(centre.x, radius), WrappingAdd(centre.y, radius)));
+    return {Point2d(WrappingSubtract(centre.x, radius), WrappingSubtract(centre.y, radius)),
+            Point2d(WrappingAdd(centre.x, radius), WrappingAdd(centre.y, radius))};
 }
 
 } // namespace ItUnitechnik

@@ -44,7 +44,7 @@ std::string ToUtf8(const std::wstring& text)
     for (std::size_t i = 0; i < text.size(); ++i) {
         const unsigned long unit = static_cast<unsigned long>(text[i]) & 0xFFFFFFFFul;
         if (IsHighSurrogate(unit) && i + 1 < text.size() && IsLowSurrogate(static_cast<unsigned long>(text[i + 1]))) {
-            const unsigned long low = static_cast<unsigned long>(text[i + 1]);
+            const unsigned long low = static_cast<unsigned long>(text[i + 1]) & 0xFFFFFFFFul;
             AppendCodePoint(out, 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00));
             ++i;
         } else if (IsHighSurrogate(unit) || IsLowSurrogate(unit) || unit > 0x10FFFF) {

@@ -290,7 +290,8 @@ void FieldReader::Literal(const char* text)
     fieldStart_ = position_;
     const std::size_t length = std::strlen(text);
     for (std::size_t i = 0; i < length; ++i) {
-        if (position_ + i >= text_.size() || text_[position_ + i] != static_cast<unsigned char>(text[i])) {
+        if (position_ + i >= text_.size() ||
+            text_[position_ + i] != static_cast<wchar_t>(static_cast<unsigned char>(text[i]))) {
             const std::string what = std::string(text) == " " ? "a blank" : "\"" + std::string(text) + "\"";
             throw ReadFailure(StopAt(position_ + i, what, position_ + i >= text_.size()));
         }
@@ -320,7 +321,7 @@ bool FieldReader::NextLineIs(const char* tag) const
         return false;
     }
     for (std::size_t i = 0; i < length; ++i) {
-        if (text_[position_ + i] != static_cast<unsigned char>(tag[i])) {
+        if (text_[position_ + i] != static_cast<wchar_t>(static_cast<unsigned char>(tag[i]))) {
             return false;
         }
     }

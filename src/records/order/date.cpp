@@ -57,7 +57,7 @@ int ToInteger(const std::wstring& text)
 
 } // namespace
 
-Date::Date(std::wstring text, std::int16_t dateVersion) : version(dateVersion)
+Date::Date(const std::wstring& text, std::int16_t dateVersion) : version(dateVersion)
 {
     year = static_cast<std::int16_t>(ToInteger(Part(text, 6, 4)));
     month = static_cast<std::int16_t>(ToInteger(Part(text, 3, 2)));

@@ -17,7 +17,7 @@ public:
     // fewer than 6 characters, std::invalid_argument "invalid stoi argument"
     // for a part with no number and std::out_of_range "stoi argument out of
     // range" for one too large. The year is converted first, the day last.
-    Date(std::wstring text, std::int16_t version);
+    Date(const std::wstring& text, std::int16_t version);
 
     bool Read(Archive& ar) override;
     bool Write(Archive& ar) override;

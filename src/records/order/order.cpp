@@ -27,10 +27,9 @@ Order::Order(const Order& other)
 }
 
 Order::Order(Order&& other) noexcept
-    : Serializable(other), ItCollectionImpl<std::vector<ElementPart>>(std::move(other)),
-      version(std::move(other.version)), orderNumber(std::move(other.orderNumber)),
-      orderText5(std::move(other.orderText5)), orderText4(std::move(other.orderText4)),
-      orderText8(std::move(other.orderText8)), orderValue2(std::move(other.orderValue2)),
+    : Serializable(other), ItCollectionImpl<std::vector<ElementPart>>(std::move(other)), version(other.version),
+      orderNumber(std::move(other.orderNumber)), orderText5(std::move(other.orderText5)),
+      orderText4(std::move(other.orderText4)), orderText8(std::move(other.orderText8)), orderValue2(other.orderValue2),
       legacyText2(std::move(other.legacyText2)), legacyText40(std::move(other.legacyText40)),
       orderText2(std::move(other.orderText2)), project(std::move(other.project)),
       firstAddress(std::move(other.firstAddress)), secondAddress(std::move(other.secondAddress)),
@@ -67,12 +66,12 @@ Order& Order::operator=(Order&& other) noexcept
         date.version = version;
         return *this;
     }
-    version = std::move(other.version);
+    version = other.version;
     orderNumber = std::move(other.orderNumber);
     orderText5 = std::move(other.orderText5);
     orderText4 = std::move(other.orderText4);
     orderText8 = std::move(other.orderText8);
-    orderValue2 = std::move(other.orderValue2);
+    orderValue2 = other.orderValue2;
     legacyText2 = std::move(other.legacyText2);
     legacyText40 = std::move(other.legacyText40);
     orderText2 = std::move(other.orderText2);
