@@ -23,11 +23,30 @@ bool WriteList(Archive& ar, const void* record, std::int16_t version, const List
 {
     const RecordScope scope(ar, record);
     ar << Tag(frame.tag);
-    ar << UInt(3, version, "version") << EndLine;
-    ar << UInt(frame.countWidth, static_cast<std::uint32_t>(entries.size()), frame.countName) << EndLine;
+    ar << UInt(3, version, "version");
+    ar << EndLine;
+    ar << UInt(frame.countWidth, static_cast<std::uint32_t>(entries.size()), frame.countName);
+    ar << EndLine;
     WriteElements(ar, entries);
     ar << Tag("END");
     return Healthy(ar);
+}
+
+// The pieces of an outline (a contour, a cutout, a mounted part): their
+// count ends the outline's own line, then each piece stands on a line of its
+// own. An outline with no piece still ends its line; the list ends the last
+// piece's.
+template <class Piece>
+void WritePieces(Archive& ar, std::vector<Piece>& pieces)
+{
+    ar << UInt(2, static_cast<std::uint32_t>(pieces.size()), "geoData");
+    for (Piece& piece : pieces) {
+        ar << EndLine;
+        piece.Write(ar);
+    }
+    if (pieces.empty()) {
+        ar << EndLine;
+    }
 }
 
 // What a wrong end tag does: as any wrong tag, it spoils the rest of the

@@ -53,6 +53,24 @@ TEST(WriteList, TheCountTakesItsOwnWidth)
     EXPECT_EQ(s.Text(), L"LISTTAG_\n502\n00\nEND\n");
 }
 
+TEST(WritePieces, TheCountEndsNoLineAndEachPieceStandsOnALineOfItsOwn)
+{
+    StringArchive s;
+    std::vector<Entry> pieces = Entries({3, 14, 15});
+    s.archive << Literal("OUTLINE ");
+    WritePieces(s.archive, pieces);
+    EXPECT_EQ(s.Text(), L"OUTLINE 03\n03\n14\n15");
+}
+
+TEST(WritePieces, AnOutlineWithNoPieceStillEndsItsLine)
+{
+    StringArchive s;
+    std::vector<Entry> pieces;
+    s.archive << Literal("OUTLINE ");
+    WritePieces(s.archive, pieces);
+    EXPECT_EQ(s.Text(), L"OUTLINE 00\n");
+}
+
 TEST(ReadList, ReadsWhatWriteListWrote)
 {
     StringArchive s(L"LISTTAG_\n601\n002\n07\n42\nEND\n");

@@ -9,16 +9,20 @@ namespace ItUnitechnik {
 bool ConcreteLayer::Write(Archive& ar)
 {
     const RecordScope scope(ar, this);
-    ar << UInt(2, layerNumber, "layerNumber") << Blank;
-    ar << UInt(2, layerKind, "layerKind") << Blank;
-    ar << UInt(3, layerThickness, "layerThickness") << Blank;
+    ar << UInt(2, layerNumber, "layerNumber");
+    ar << Blank;
+    ar << UInt(2, layerKind, "layerKind");
+    ar << Blank;
+    ar << UInt(3, layerThickness, "layerThickness");
+    ar << Blank;
     if (version < 600) {
         ar << Text(8, layerName, "layerName");
     } else {
         ar << Text(20, layerName, "layerName");
     }
     ar << Blank;
-    ar << Real(1, 3, firstFactor, "firstFactor") << Blank;
+    ar << Real(1, 3, firstFactor, "firstFactor");
+    ar << Blank;
     ar << Real(5, 1, secondFactor, "secondFactor");
     if (version >= 600) {
         ar << Blank;

@@ -173,22 +173,35 @@ void ElementPart::WriteConcreteLayers(Archive& ar)
 void ElementPart::WriteLineC(Archive& ar)
 {
     ar << UInt(5, extentX, "extentX");
-    ar << Blank << UInt(5, extentY, "extentY");
-    ar << Blank << SInt(4, valueC1, "valueC1");
-    ar << Blank << SInt(4, valueC2, "valueC2");
-    ar << Blank << SInt(4, valueC3, "valueC3");
-    ar << Blank << SInt(4, valueC4, "valueC4");
-    ar << Blank << UInt(1, valueC5, "valueC5");
-    ar << Blank << UInt(5, valueC6, "valueC6");
-    ar << Blank << UInt(1, valueC7, "valueC7");
-    ar << Blank << UInt(5, valueC8, "valueC8");
+    ar << Blank;
+    ar << UInt(5, extentY, "extentY");
+    ar << Blank;
+    ar << SInt(4, valueC1, "valueC1");
+    ar << Blank;
+    ar << SInt(4, valueC2, "valueC2");
+    ar << Blank;
+    ar << SInt(4, valueC3, "valueC3");
+    ar << Blank;
+    ar << SInt(4, valueC4, "valueC4");
+    ar << Blank;
+    ar << UInt(1, valueC5, "valueC5");
+    ar << Blank;
+    ar << UInt(5, valueC6, "valueC6");
+    ar << Blank;
+    ar << UInt(1, valueC7, "valueC7");
+    ar << Blank;
+    ar << UInt(5, valueC8, "valueC8");
     ar << Blank;
     elementVector.Write(ar);
-    ar << Blank << SInt(2, valueC9, "valueC9");
-    ar << Blank << SInt(2, valueC10, "valueC10");
+    ar << Blank;
+    ar << SInt(2, valueC9, "valueC9");
+    ar << Blank;
+    ar << SInt(2, valueC10, "valueC10");
     if (version < 600 && valueC11 != -1 && valueC12 != -1) {
-        ar << Blank << UInt(3, valueC11, "valueC11");
-        ar << Blank << UInt(3, valueC12, "valueC12");
+        ar << Blank;
+        ar << UInt(3, valueC11, "valueC11");
+        ar << Blank;
+        ar << UInt(3, valueC12, "valueC12");
     }
     ar << EndLine;
 }

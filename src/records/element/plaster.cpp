@@ -9,9 +9,12 @@ namespace ItUnitechnik {
 bool Plaster::Write(Archive& ar)
 {
     const RecordScope scope(ar, this);
-    ar << UInt(3, plasterNumber, "plasterNumber") << Blank;
-    ar << Text(8, plasterName, "plasterName") << Blank;
-    ar << Real(1, 3, firstValue, "firstValue") << Blank;
+    ar << UInt(3, plasterNumber, "plasterNumber");
+    ar << Blank;
+    ar << Text(8, plasterName, "plasterName");
+    ar << Blank;
+    ar << Real(1, 3, firstValue, "firstValue");
+    ar << Blank;
     ar << Real(5, 1, secondValue, "secondValue");
     return Healthy(ar);
 }

@@ -105,7 +105,8 @@ bool Order::Write(Archive& ar)
 
     if (version < 600) {
         ar << Text(8, orderNumber, "orderNumber");
-        ar << Blanks(2) << Blank;
+        ar << Blanks(2);
+        ar << Blank;
     } else {
         ar << Text(20, orderNumber, "orderNumber");
         ar << Blank;

@@ -15,18 +15,11 @@ Contour::Contour(std::int32_t formatVersion)
 bool Contour::Write(Archive& ar)
 {
     const RecordScope scope(ar, this);
-    ar << UInt(2, contourNumber, "contourNumber") << Blank;
-    ar << ZText(2, contourCode, "contourCode") << Blank;
-    ar << UInt(2, static_cast<std::uint32_t>(geoData.size()), "geoData");
-    // Each element stands on a line of its own; an empty contour still ends
-    // its own line, and the record ends the last one.
-    for (GeoData& element : geoData) {
-        ar << EndLine;
-        element.Write(ar);
-    }
-    if (geoData.empty()) {
-        ar << EndLine;
-    }
+    ar << UInt(2, contourNumber, "contourNumber");
+    ar << Blank;
+    ar << ZText(2, contourCode, "contourCode");
+    ar << Blank;
+    WritePieces(ar, geoData);
     return Healthy(ar);
 }
 

@@ -15,19 +15,15 @@ Cutout::Cutout(std::int32_t formatVersion)
 bool Cutout::Write(Archive& ar)
 {
     const RecordScope scope(ar, this);
-    ar << UInt(2, cutoutNumber, "cutoutNumber") << Blank;
-    ar << Real(2, 3, cutoutValue, "cutoutValue") << Blank;
+    ar << UInt(2, cutoutNumber, "cutoutNumber");
+    ar << Blank;
+    ar << Real(2, 3, cutoutValue, "cutoutValue");
+    ar << Blank;
     if (version >= 600) {
-        ar << Text(40, cutoutName, "cutoutName") << Blank;
+        ar << Text(40, cutoutName, "cutoutName");
+        ar << Blank;
     }
-    ar << UInt(2, static_cast<std::uint32_t>(geoData.size()), "geoData");
-    for (GeoData& element : geoData) {
-        ar << EndLine;
-        element.Write(ar);
-    }
-    if (geoData.empty()) {
-        ar << EndLine;
-    }
+    WritePieces(ar, geoData);
     return Healthy(ar);
 }
 

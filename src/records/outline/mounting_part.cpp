@@ -17,11 +17,15 @@ bool MountingPart::Write(Archive& ar)
 {
     const RecordScope scope(ar, this);
     // Line 1.
-    ar << UInt(version < 502 ? 2 : 3, partNumber, "partNumber") << Blank;
+    ar << UInt(version < 502 ? 2 : 3, partNumber, "partNumber");
+    ar << Blank;
     ar << Char(partKind, "partKind");
-    ar << UInt(2, partSubCode, "partSubCode") << Blank;
-    ar << Literal("000") << Blank;
-    ar << Text(10, partCode, "partCode") << Blank;
+    ar << UInt(2, partSubCode, "partSubCode");
+    ar << Blank;
+    ar << Literal("000");
+    ar << Blank;
+    ar << Text(10, partCode, "partCode");
+    ar << Blank;
     ar << Text(40, partName, "partName");
     ar << EndLine;
     // Lines 2 and 3 stand at the right end of their places.
@@ -32,28 +36,29 @@ bool MountingPart::Write(Archive& ar)
         ar << EndLine;
     }
     // Last line.
-    ar << Real(2, 3, partArea, "partArea") << Blank;
-    ar << UInt(3, setValue1, "setValue1") << Blank;
+    ar << Real(2, 3, partArea, "partArea");
+    ar << Blank;
+    ar << UInt(3, setValue1, "setValue1");
+    ar << Blank;
     if (version >= 600) {
-        ar << SInt(5, position.x, "position.x") << Blank;
-        ar << SInt(5, position.y, "position.y") << Blank;
+        ar << SInt(5, position.x, "position.x");
+        ar << Blank;
+        ar << SInt(5, position.y, "position.y");
+        ar << Blank;
         ar << SInt(5, setValue2, "setValue2");
     } else {
         ar << UInt(3, setValue2, "setValue2");
     }
     ar << Blank;
-    ar << UInt(4, partValue1, "partValue1") << Blank;
-    ar << UInt(3, partValue2, "partValue2") << Blank;
-    ar << UInt(5, partWidth, "partWidth") << Blank;
-    ar << UInt(5, partHeight, "partHeight") << Blank;
-    ar << UInt(2, static_cast<std::uint32_t>(geoData.size()), "geoData");
-    for (GeoData& element : geoData) {
-        ar << EndLine;
-        element.Write(ar);
-    }
-    if (geoData.empty()) {
-        ar << EndLine;
-    }
+    ar << UInt(4, partValue1, "partValue1");
+    ar << Blank;
+    ar << UInt(3, partValue2, "partValue2");
+    ar << Blank;
+    ar << UInt(5, partWidth, "partWidth");
+    ar << Blank;
+    ar << UInt(5, partHeight, "partHeight");
+    ar << Blank;
+    WritePieces(ar, geoData);
     return Healthy(ar);
 }
 
