@@ -13,15 +13,11 @@ namespace ItUnitechnik {
 
 bool ElementPart::ReadOptional(Archive& ar, Serializable& record) const
 {
-    const std::wistream::pos_type start = ar.tellg();
-    record.Read(ar);
-    if (Healthy(ar)) {
-        return true;
-    }
     if (version < 600) {
-        return false;
+        record.Read(ar);
+        return Healthy(ar);
     }
-    Rewind(ar, start);
+    ReadOrRewind(ar, record);
     return true;
 }
 
