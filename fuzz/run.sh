@@ -19,36 +19,37 @@ cmake --preset fuzz >/dev/null
 cmake --build --preset fuzz >/dev/null
 
 build=build-fuzz
+# What each target runs, as the build wrote it: name, program, record, seeds,
+# dictionary ("-" where there is none).
+declare -A program_of record_of seeds_of dict_of
+all=()
+while read -r name program record seeds dict; do
+    all+=("$name")
+    program_of[$name]="$program"
+    record_of[$name]="$record"
+    seeds_of[$name]="$seeds"
+    dict_of[$name]="$dict"
+done < "$build/fuzz/targets.txt"
 targets=("$@")
 if [ ${#targets[@]} -eq 0 ]; then
-    mapfile -t targets < "$build/fuzz/targets.txt"
+    targets=("${all[@]}")
 fi
 mkdir -p "$build/findings"
 
-seeds_of() {
-    case "$1" in
-        fuzz_exports) echo fuzz/corpus/exports ;;
-        fuzz_document|fuzz_tolerant) echo fuzz/corpus/documents ;;
-        fuzz_script) echo fuzz/corpus/scripts ;;
-        *) echo fuzz/corpus/records ;;
-    esac
-}
-
 for target in "${targets[@]}"; do
-    program="$build/fuzz/$target"
-    # The record targets are one program, told the record by the environment.
-    case "$target" in
-        fuzz_read_*)
-            program="$build/fuzz/fuzz_records"
-            export ITUNITECHNIK_FUZZ_RECORD="${target#fuzz_read_}"
-            ;;
-    esac
-    seeds="$(seeds_of "$target")"
-    case "$target" in
-        fuzz_exports) dict=() ;;
-        fuzz_script) dict=(-dict=fuzz/script.dict) ;;
-        *) dict=(-dict=fuzz/tags.dict) ;;
-    esac
+    if [ -z "${program_of[$target]+set}" ]; then
+        echo "$target: no such fuzz target"
+        exit 2
+    fi
+    program="$build/fuzz/${program_of[$target]}"
+    if [ "${record_of[$target]}" != - ]; then
+        export ITUNITECHNIK_FUZZ_RECORD="${record_of[$target]}"
+    fi
+    seeds="fuzz/corpus/${seeds_of[$target]}"
+    dict=()
+    if [ "${dict_of[$target]}" != - ]; then
+        dict=(-dict="fuzz/${dict_of[$target]}")
+    fi
     # Regression: every seed once.
     "$program" -runs=0 "$seeds" >"$build/findings/$target.replay.log" 2>&1 \
         || { cat "$build/findings/$target.replay.log"; echo "$target: a seed fails"; exit 1; }
