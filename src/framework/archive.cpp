@@ -10,6 +10,17 @@ Archive::Archive(std::basic_streambuf<wchar_t>* buffer) : std::basic_iostream<wc
 {
     imbue(ClassicNumberLocale());
     Fields::KeepPlainDigits(*this);
+    direct_ = dynamic_cast<FieldBuffer*>(buffer);
+    register_callback(ForgetDirect, 0);
+}
+
+void Archive::ForgetDirect(event happened, std::ios_base& stream, int /*index*/)
+{
+    if (happened == imbue_event) {
+        if (auto* const archive = dynamic_cast<Archive*>(&stream)) {
+            archive->direct_ = nullptr;
+        }
+    }
 }
 
 Archive::~Archive()

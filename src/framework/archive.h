@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framework/field_buffer.h"
+
 #include <istream>
 #include <memory>
 #include <streambuf>
@@ -13,7 +15,7 @@ class FieldTrace;
 // buffer. The stream always works in the classic number formats, whatever the
 // host did to the global locale, and formats doubles with a facet of its own
 // so that the digits do not depend on a C runtime.
-class Archive : public std::basic_iostream<wchar_t> {
+class Archive final : public std::basic_iostream<wchar_t> {
 public:
     explicit Archive(std::basic_streambuf<wchar_t>* buffer);
     Archive(const Archive&) = delete;
@@ -31,8 +33,25 @@ public:
     // The trace of a sink that is set, else null.
     FieldTrace* Trace() const { return trace_.get(); }
 
+    // The library's own buffer the Archive was made over, whose put area the
+    // field forms may fill themselves: while it is still the stream's buffer,
+    // the stream is good and keeps the classic formats (no other locale was
+    // imbued), and nothing asks for a flush around a field (no tied stream,
+    // no `unitbuf`). Null otherwise.
+    FieldBuffer* Direct() const
+    {
+        if (direct_ == nullptr || rdbuf() != direct_ || rdstate() != goodbit || tie() != nullptr ||
+            (flags() & unitbuf) != 0) {
+            return nullptr;
+        }
+        return direct_;
+    }
+
 private:
+    static void ForgetDirect(event happened, std::ios_base& stream, int index);
+
     std::unique_ptr<FieldTrace> trace_;
+    FieldBuffer* direct_ = nullptr;
 };
 
 // The test that ends every Read and Write: bad first, then fail, then valid.

@@ -1,6 +1,5 @@
 #include "framework/document_file_buffer.h"
 
-#include <algorithm>
 #include <cstdint>
 
 namespace ItUnitechnik {
@@ -68,21 +67,12 @@ bool DocumentFileBuffer::Drain()
     }
     char* const start = bytes_.get();
     char* out = start;
-    const wchar_t* p = first;
-    while (p != stop) {
-        // A run up to the next line feed, one byte each; then CR LF.
-        const wchar_t* const lineFeed = std::find(p, stop, L'\n');
-        const std::size_t run = static_cast<std::size_t>(lineFeed - p);
-        for (std::size_t i = 0; i < run; ++i) {
-            out[i] = static_cast<char>(static_cast<unsigned char>(p[i]));
-        }
-        out += run;
-        p = lineFeed;
-        if (p != stop) {
+    for (const wchar_t* p = first; p != stop; ++p) {
+        // Each character its one byte; a line feed gets its CR in front.
+        if (*p == L'\n') {
             *out++ = '\r';
-            *out++ = '\n';
-            ++p;
         }
+        *out++ = static_cast<char>(static_cast<unsigned char>(*p));
     }
     if (out != start && !file_.Write(start, static_cast<std::size_t>(out - start))) {
         broken_ = true;

@@ -48,16 +48,7 @@ TextForm ZTextWhole(int width, const std::wstring& value, const char* member)
 
 std::wostream& operator<<(std::wostream& os, const TextForm& form)
 {
-    if (form.adjust == Adjust::left) {
-        os.setf(std::ios_base::left, std::ios_base::adjustfield);
-    } else if (form.adjust == Adjust::right) {
-        os.setf(std::ios_base::right, std::ios_base::adjustfield);
-    }
-    os.fill(form.fill);
-    os.width(form.width);
-    // A text pads behind for `left` and in front for any other adjustment,
-    // whatever the locale.
-    Fields::PutPadded(os, form.value.data(), form.value.size(), 0);
+    PutField(os, form, Fields::DirectBuffer(os));
     return os;
 }
 
@@ -126,24 +117,19 @@ std::wostream& operator<<(std::wostream& os, const LiteralForm& form)
     return os << form.text;
 }
 
-std::wostream& operator<<(std::wostream& os, BlankForm)
+void PutBlankThroughStream(std::wostream& os)
 {
-    // The commonest field of all: one character, no width left in force.
-    if (FieldBuffer* const direct = Fields::DirectBuffer(os)) {
-        if (os.width() <= 1) {
-            if (wchar_t* const out = direct->Room(1)) {
-                *out = L' ';
-                direct->Advance(1);
-                os.width(0);
-                return os;
-            }
-        }
-    }
     if (Fields::PlainDigits(os)) {
         Fields::PutPadded(os, L" ", 1, 0);
-        return os;
+        return;
     }
-    return os << " ";
+    os << " ";
+}
+
+std::wostream& operator<<(std::wostream& os, BlankForm)
+{
+    PutField(os, Blank, Fields::DirectBuffer(os));
+    return os;
 }
 
 BlanksForm Blanks(int count)
@@ -161,8 +147,8 @@ std::wostream& operator<<(std::wostream& os, const BlanksForm& form)
 
 std::wostream& operator<<(std::wostream& os, EndLineForm)
 {
-    os.put(os.widen('\n'));
-    return os.flush();
+    PutField(os, EndLine, Fields::DirectBuffer(os));
+    return os;
 }
 
 TagForm Tag(const char* text)

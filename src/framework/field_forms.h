@@ -54,6 +54,29 @@ TextForm ZText(int width, const std::wstring& value, const char* member);
 // text of the format that is not cut.
 TextForm ZTextWhole(int width, const std::wstring& value, const char* member = nullptr);
 
+// Puts a text field. `direct` is the put area the field may go straight
+// into (Fields::DirectBuffer), or null; the characters are the same either
+// way. The other forms below that the stream's hot lines use take one too.
+template <class Stream>
+void PutField(Stream& os, const TextForm& form, FieldBuffer* direct)
+{
+    if (form.adjust == Adjust::left) {
+        os.setf(std::ios_base::left, std::ios_base::adjustfield);
+    } else if (form.adjust == Adjust::right) {
+        os.setf(std::ios_base::right, std::ios_base::adjustfield);
+    }
+    os.fill(form.fill);
+    // A text pads behind for `left` and in front for any other adjustment,
+    // whatever the locale.
+    if (direct != nullptr && Fields::StorePadded(*direct, form.value.data(), form.value.size(), 0, form.width,
+                                                 form.fill, os.flags() & std::ios_base::adjustfield)) {
+        os.width(0);
+        return;
+    }
+    os.width(form.width);
+    Fields::PutPadded(os, form.value.data(), form.value.size(), 0);
+}
+
 std::wostream& operator<<(std::wostream& os, const TextForm& form);
 
 template <class T>
@@ -92,8 +115,8 @@ IntegerForm<T> Hex(int width, T value, const char* member = nullptr)
     return {IntegerForm<T>::Kind::hexField, width, value, member};
 }
 
-template <class T>
-std::wostream& operator<<(std::wostream& os, const IntegerForm<T>& form)
+template <class Stream, class T>
+void PutField(Stream& os, const IntegerForm<T>& form, FieldBuffer* direct)
 {
     using Kind = typename IntegerForm<T>::Kind;
     switch (form.kind) {
@@ -132,13 +155,31 @@ std::wostream& operator<<(std::wostream& os, const IntegerForm<T>& form)
     } else {
         plain.magnitude = value;
     }
-    if (!Fields::PutInteger(os, plain, form.kind == Kind::hexField)) {
+    const bool hexadecimal = form.kind == Kind::hexField;
+    // A decimal field in the form's own zero fill and adjustment, its digits
+    // made in place; the rest goes through the stream's state.
+    if (direct != nullptr && !hexadecimal && Fields::OwnDigits(os.flags(), false)) {
+        const bool signedField = form.kind == Kind::signedField;
+        const wchar_t sign = plain.negative ? L'-' : signedField && plain.signedType ? L'+' : L'\0';
+        if (Fields::StoreZeroFilledDecimal(*direct, plain.magnitude, sign, signedField ? form.width + 1 : form.width,
+                                           signedField)) {
+            os.width(0);
+            return;
+        }
+    }
+    if (!Fields::PutInteger(os, plain, hexadecimal)) {
         os << value;
     }
-    if (form.kind == Kind::hexField) {
+    if (hexadecimal) {
         os.setf(std::ios_base::dec, std::ios_base::basefield);
         os.unsetf(std::ios_base::uppercase);
     }
+}
+
+template <class T>
+std::wostream& operator<<(std::wostream& os, const IntegerForm<T>& form)
+{
+    PutField(os, form, Fields::DirectBuffer(os));
     return os;
 }
 
@@ -172,6 +213,22 @@ std::wostream& operator<<(std::wostream& os, const LiteralForm& form);
 struct BlankForm {};
 // The one-character literal " ".
 inline constexpr BlankForm Blank{};
+// A blank where it cannot go straight into the put area.
+void PutBlankThroughStream(std::wostream& os);
+template <class Stream>
+void PutField(Stream& os, BlankForm, FieldBuffer* direct)
+{
+    // The commonest field of all: one character, no width left in force.
+    if (direct != nullptr && os.width() <= 1) {
+        if (wchar_t* const out = direct->Room(1)) {
+            *out = L' ';
+            direct->Advance(1);
+            os.width(0);
+            return;
+        }
+    }
+    PutBlankThroughStream(os);
+}
 std::wostream& operator<<(std::wostream& os, BlankForm);
 
 struct BlanksForm {
@@ -184,6 +241,25 @@ std::wostream& operator<<(std::wostream& os, const BlanksForm& form);
 struct EndLineForm {};
 // The line end: widen('\n'), then a flush.
 inline constexpr EndLineForm EndLine{};
+template <class Stream>
+void PutField(Stream& os, EndLineForm, FieldBuffer* direct)
+{
+    // A put area of the library's own is only ever handed to a stream in the
+    // classic locale, whose line feed widens to L'\n'; what the flush does
+    // then on a good stream with nothing tied is the buffer's sync.
+    if (direct != nullptr) {
+        if (wchar_t* const out = direct->Room(1)) {
+            *out = L'\n';
+            direct->Advance(1);
+            if (direct->pubsync() == -1) {
+                os.setstate(std::ios_base::badbit);
+            }
+            return;
+        }
+    }
+    os.put(os.widen('\n'));
+    os.flush();
+}
 std::wostream& operator<<(std::wostream& os, EndLineForm);
 
 // A record tag or end tag: the literal, then the line end.

@@ -94,82 +94,6 @@ void PutPaddedOnGoodStream(std::wostream& os, const wchar_t* text, std::size_t l
     }
 }
 
-// The integer straight into the put area, digits written from the back:
-// [fill][sign][digits] for a right adjustment, [sign][fill][digits] for
-// `internal`, [sign][digits][fill] for `left`. False when the area has no
-// room for it.
-template <unsigned base>
-std::size_t DigitCount(unsigned long long magnitude)
-{
-    std::size_t count = 1;
-    for (; magnitude >= base; magnitude /= base) {
-        ++count;
-    }
-    return count;
-}
-
-// The digits of the magnitude, the last one at out[count - 1].
-template <unsigned base>
-void WriteDigits(wchar_t* out, std::size_t count, unsigned long long magnitude, const wchar_t* names)
-{
-    for (std::size_t i = count; i > 0; --i) {
-        out[i - 1] = names[magnitude % base];
-        magnitude /= base;
-    }
-}
-
-bool PutIntegerDirect(std::wostream& os, FieldBuffer& direct, const IntegerValue& value, bool hexadecimal)
-{
-    const std::size_t digitCount = hexadecimal ? DigitCount<16>(value.magnitude) : DigitCount<10>(value.magnitude);
-    const std::ios_base::fmtflags flags = os.flags();
-    wchar_t sign = 0;
-    if (!hexadecimal) {
-        if (value.negative) {
-            sign = L'-';
-        } else if (value.signedType && (flags & std::ios_base::showpos) != 0) {
-            sign = L'+';
-        }
-    }
-    const std::size_t length = digitCount + (sign != 0 ? 1 : 0);
-    const std::streamsize width = os.width();
-    const std::size_t padding =
-        width > static_cast<std::streamsize>(length) ? static_cast<std::size_t>(width) - length : 0;
-    wchar_t* out = direct.Room(length + padding);
-    if (out == nullptr) {
-        return false;
-    }
-    const std::ios_base::fmtflags adjust = flags & std::ios_base::adjustfield;
-    const wchar_t fill = padding > 0 ? os.fill() : L'0';
-    if (adjust != std::ios_base::left && adjust != std::ios_base::internal) {
-        for (std::size_t i = 0; i < padding; ++i) {
-            *out++ = fill;
-        }
-    }
-    if (sign != 0) {
-        *out++ = sign;
-    }
-    if (adjust == std::ios_base::internal) {
-        for (std::size_t i = 0; i < padding; ++i) {
-            *out++ = fill;
-        }
-    }
-    const wchar_t* const names = (flags & std::ios_base::uppercase) != 0 ? L"0123456789ABCDEF" : L"0123456789abcdef";
-    if (hexadecimal) {
-        WriteDigits<16>(out, digitCount, value.magnitude, names);
-    } else {
-        WriteDigits<10>(out, digitCount, value.magnitude, names);
-    }
-    out += digitCount;
-    if (adjust == std::ios_base::left) {
-        for (std::size_t i = 0; i < padding; ++i) {
-            *out++ = fill;
-        }
-    }
-    direct.Advance(length + padding);
-    os.width(0);
-    return true;
-}
-
 } // namespace
 
 FieldBuffer* DirectBuffer(std::wostream& os)
@@ -190,26 +114,8 @@ FieldBuffer* DirectBuffer(std::wostream& os)
 void PutPadded(std::wostream& os, const wchar_t* text, std::size_t length, std::size_t prefix)
 {
     if (FieldBuffer* const direct = DirectBuffer(os)) {
-        const std::streamsize width = os.width();
-        const std::size_t padding =
-            width > static_cast<std::streamsize>(length) ? static_cast<std::size_t>(width) - length : 0;
-        if (wchar_t* out = direct->Room(length + padding)) {
-            std::size_t before = 0;
-            if (padding > 0) {
-                const std::ios_base::fmtflags adjust = os.flags() & std::ios_base::adjustfield;
-                before = adjust == std::ios_base::left ? length : adjust == std::ios_base::internal ? prefix : 0;
-            }
-            const wchar_t fill = padding > 0 ? os.fill() : L' ';
-            for (std::size_t i = 0; i < before; ++i) {
-                *out++ = text[i];
-            }
-            for (std::size_t i = 0; i < padding; ++i) {
-                *out++ = fill;
-            }
-            for (std::size_t i = before; i < length; ++i) {
-                *out++ = text[i];
-            }
-            direct->Advance(length + padding);
+        if (StorePadded(*direct, text, length, prefix, os.width(), os.fill(),
+                        os.flags() & std::ios_base::adjustfield)) {
             os.width(0);
             return;
         }
@@ -262,43 +168,13 @@ bool PutInteger(std::wostream& os, const IntegerValue& value, bool hexadecimal)
         return false;
     }
     const std::ios_base::fmtflags flags = os.flags();
-    const std::ios_base::fmtflags base = flags & std::ios_base::basefield;
-    if (hexadecimal ? (flags & std::ios_base::showbase) != 0
-                    : (base == std::ios_base::oct || base == std::ios_base::hex)) {
+    if (!OwnDigits(flags, hexadecimal)) {
         return false;
     }
-    if (FieldBuffer* const direct = DirectBuffer(os)) {
-        if (PutIntegerDirect(os, *direct, value, hexadecimal)) {
-            return true;
-        }
-    }
     wchar_t digits[32];
-    wchar_t* const end = digits + 32;
-    wchar_t* first = end;
-    unsigned long long magnitude = value.magnitude;
-    if (hexadecimal) {
-        const wchar_t* const names =
-            (flags & std::ios_base::uppercase) != 0 ? L"0123456789ABCDEF" : L"0123456789abcdef";
-        do {
-            *--first = names[magnitude & 0xF];
-            magnitude >>= 4;
-        } while (magnitude != 0);
-        PutPadded(os, first, static_cast<std::size_t>(end - first), 0);
-        return true;
-    }
-    do {
-        *--first = static_cast<wchar_t>(L'0' + static_cast<int>(magnitude % 10));
-        magnitude /= 10;
-    } while (magnitude != 0);
-    std::size_t sign = 0;
-    if (value.negative) {
-        *--first = L'-';
-        sign = 1;
-    } else if (value.signedType && (flags & std::ios_base::showpos) != 0) {
-        *--first = L'+';
-        sign = 1;
-    }
-    PutPadded(os, first, static_cast<std::size_t>(end - first), sign);
+    std::size_t prefix = 0;
+    const wchar_t* const first = StoreSignedDigits(digits + 32, value, hexadecimal, flags, prefix);
+    PutPadded(os, first, static_cast<std::size_t>(digits + 32 - first), prefix);
     return true;
 }
 

@@ -41,6 +41,123 @@ bool PutInteger(std::wostream& os, const IntegerValue& value, bool hexadecimal);
 // `unitbuf`). Null otherwise.
 FieldBuffer* DirectBuffer(std::wostream& os);
 
+// Whether the stream's base flags leave the digits of an integer to the form:
+// a decimal field under `oct` or `hex`, or a hexadecimal one under
+// `showbase`, goes to the inserter.
+inline bool OwnDigits(std::ios_base::fmtflags flags, bool hexadecimal)
+{
+    const std::ios_base::fmtflags base = flags & std::ios_base::basefield;
+    if (hexadecimal) {
+        return (flags & std::ios_base::showbase) == 0;
+    }
+    return base != std::ios_base::oct && base != std::ios_base::hex;
+}
+
+// Stores `count` fill characters at `out` and gives the place behind them.
+inline wchar_t* StoreFill(wchar_t* out, wchar_t fill, std::size_t count)
+{
+    for (std::size_t i = 0; i < count; ++i) {
+        *out++ = fill;
+    }
+    return out;
+}
+
+inline wchar_t* StoreText(wchar_t* out, const wchar_t* text, std::size_t count)
+{
+    for (std::size_t i = 0; i < count; ++i) {
+        *out++ = text[i];
+    }
+    return out;
+}
+
+// The characters of one field straight into the put area, padded to
+// `width` as the inserters pad them (see PutPadded); false, with nothing
+// put, when the area has no room.
+inline bool StorePadded(FieldBuffer& direct, const wchar_t* text, std::size_t length, std::size_t prefix,
+                        std::streamsize width, wchar_t fill, std::ios_base::fmtflags adjust)
+{
+    const std::size_t padding =
+        width > static_cast<std::streamsize>(length) ? static_cast<std::size_t>(width) - length : 0;
+    wchar_t* out = direct.Room(length + padding);
+    if (out == nullptr) {
+        return false;
+    }
+    std::size_t before = 0; // characters of the text in front of the fill
+    if (padding > 0) {
+        before = adjust == std::ios_base::left ? length : adjust == std::ios_base::internal ? prefix : 0;
+        out = StoreText(out, text, before);
+        out = StoreFill(out, fill, padding);
+    }
+    StoreText(out, text + before, length - before);
+    direct.Advance(length + padding);
+    return true;
+}
+
+// A decimal integer straight into the put area, zero-filled to `width`:
+// [zeros][sign][digits], or [sign][zeros][digits] when `internal`; the
+// digits are made in their places. No sign when `sign` is 0. False, with
+// nothing put, when the area has no room.
+inline bool StoreZeroFilledDecimal(FieldBuffer& direct, unsigned long long magnitude, wchar_t sign, int width,
+                                   bool internal)
+{
+    std::size_t digitCount = 1;
+    for (unsigned long long rest = magnitude; rest >= 10; rest /= 10) {
+        ++digitCount;
+    }
+    const std::size_t length = digitCount + (sign != 0 ? 1 : 0);
+    const std::size_t padding = width > static_cast<int>(length) ? static_cast<std::size_t>(width) - length : 0;
+    wchar_t* out = direct.Room(length + padding);
+    if (out == nullptr) {
+        return false;
+    }
+    if (sign != 0 && internal) {
+        *out++ = sign;
+    }
+    out = StoreFill(out, L'0', padding);
+    if (sign != 0 && !internal) {
+        *out++ = sign;
+    }
+    for (wchar_t* digit = out + digitCount; digit != out;) {
+        *--digit = static_cast<wchar_t>(L'0' + static_cast<int>(magnitude % 10));
+        magnitude /= 10;
+    }
+    direct.Advance(length + padding);
+    return true;
+}
+
+// The sign and digits of the integer as the inserter makes them, the last
+// one stored right before `end` (32 places are enough); gives the first, and
+// in `prefix` the characters of the sign (0 or 1). Only a decimal field of a
+// signed type shows a plus sign, under `showpos`.
+inline wchar_t* StoreSignedDigits(wchar_t* end, const IntegerValue& value, bool hexadecimal,
+                                  std::ios_base::fmtflags flags, std::size_t& prefix)
+{
+    wchar_t* first = end;
+    unsigned long long magnitude = value.magnitude;
+    prefix = 0;
+    if (hexadecimal) {
+        const wchar_t* const names =
+            (flags & std::ios_base::uppercase) != 0 ? L"0123456789ABCDEF" : L"0123456789abcdef";
+        do {
+            *--first = names[magnitude & 0xF];
+            magnitude >>= 4;
+        } while (magnitude != 0);
+        return first;
+    }
+    do {
+        *--first = static_cast<wchar_t>(L'0' + static_cast<int>(magnitude % 10));
+        magnitude /= 10;
+    } while (magnitude != 0);
+    if (value.negative) {
+        *--first = L'-';
+        prefix = 1;
+    } else if (value.signedType && (flags & std::ios_base::showpos) != 0) {
+        *--first = L'+';
+        prefix = 1;
+    }
+    return first;
+}
+
 // Puts the characters of one field with the stream's width, fill and
 // adjustment, as the inserters pad them: behind the text for `left`; between
 // the first `prefix` characters (a sign) and the rest for `internal`; in

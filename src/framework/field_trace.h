@@ -116,6 +116,23 @@ template <>
 struct IsValueForm<CharForm> : std::true_type {
 };
 
+// Forms with a way of their own straight into an Archive's put area.
+template <class T>
+struct IsDirectForm : std::false_type {
+};
+template <>
+struct IsDirectForm<TextForm> : std::true_type {
+};
+template <class T>
+struct IsDirectForm<IntegerForm<T>> : std::true_type {
+};
+template <>
+struct IsDirectForm<BlankForm> : std::true_type {
+};
+template <>
+struct IsDirectForm<EndLineForm> : std::true_type {
+};
+
 // The buffer that an Archive with a field sink writes through. Every
 // character goes on to the Archive's own buffer unchanged; on the way the
 // trace counts lines and columns and keeps the characters of the field being
@@ -205,7 +222,11 @@ Archive& operator<<(Archive& ar, const Form& form)
     std::wostream& os = ar;
     FieldTrace* const trace = ar.Trace();
     if (trace == nullptr) {
-        os << form;
+        if constexpr (IsDirectForm<Form>::value) {
+            PutField(ar, form, ar.Direct());
+        } else {
+            os << form;
+        }
         return ar;
     }
     if constexpr (std::is_same<Form, TagForm>::value) {

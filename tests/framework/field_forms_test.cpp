@@ -1,73 +1,152 @@
 #include "framework/field_forms.h"
 
-#include "support/test_support.h"
-
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <locale>
+#include <sstream>
+#include <string>
+#include <vector>
 
 namespace ItUnitechnik {
 namespace {
 
-using Testing::StringArchive;
+// Where the forms write. A plain string buffer takes every field through
+// the stream; a put area of the library's own kind takes a field straight in
+// when it has room for it, and a put area of one character has room for a
+// blank only, so that every longer field goes through the stream after all.
+// Each sink gets the same characters.
+enum class Sink { stringBuffer, roomyArea, oneCharacterArea };
 
-template <class Form>
-std::wstring Written(const Form& form)
+class AreaBuffer : public FieldBuffer {
+public:
+    explicit AreaBuffer(std::size_t size) : area_(size) { setp(area_.data(), area_.data() + area_.size()); }
+
+    std::wstring Text()
+    {
+        Take();
+        return text_;
+    }
+
+protected:
+    int_type overflow(int_type c) override
+    {
+        Take();
+        if (!traits_type::eq_int_type(c, traits_type::eof())) {
+            *pptr() = traits_type::to_char_type(c);
+            pbump(1);
+        }
+        return traits_type::not_eof(c);
+    }
+
+private:
+    void Take()
+    {
+        text_.append(pbase(), pptr());
+        setp(area_.data(), area_.data() + area_.size());
+    }
+
+    std::vector<wchar_t> area_;
+    std::wstring text_;
+};
+
+class SinkArchive {
+public:
+    explicit SinkArchive(Sink sink)
+        : area_(sink == Sink::oneCharacterArea ? 1 : 4096),
+          archive(sink == Sink::stringBuffer ? static_cast<std::wstreambuf*>(&string_) : &area_), sink_(sink)
+    {
+    }
+
+    std::wstring Text() { return sink_ == Sink::stringBuffer ? string_.str() : area_.Text(); }
+
+private:
+    std::wstringbuf string_;
+    AreaBuffer area_;
+
+public:
+    Archive archive;
+
+private:
+    Sink sink_;
+};
+
+class FieldFormsOn : public ::testing::TestWithParam<Sink> {
+protected:
+    template <class Form>
+    std::wstring Written(const Form& form)
+    {
+        SinkArchive s(GetParam());
+        s.archive << form;
+        return s.Text();
+    }
+};
+
+std::string SinkName(const ::testing::TestParamInfo<Sink>& sink)
 {
-    StringArchive s;
-    s.archive << form;
-    return s.Text();
+    switch (sink.param) {
+    case Sink::stringBuffer:
+        return "StringBuffer";
+    case Sink::roomyArea:
+        return "RoomyPutArea";
+    case Sink::oneCharacterArea:
+        return "OneCharacterPutArea";
+    }
+    return "";
 }
 
-TEST(TextForm, PadsBehindAndCuts)
+INSTANTIATE_TEST_SUITE_P(Sinks, FieldFormsOn,
+                         ::testing::Values(Sink::stringBuffer, Sink::roomyArea, Sink::oneCharacterArea), SinkName);
+
+TEST_P(FieldFormsOn, TextPadsBehindAndCuts)
 {
     EXPECT_EQ(Written(Text(8, L"AB")), L"AB      ");
     EXPECT_EQ(Written(Text(8, L"ABCDEFGHIJ")), L"ABCDEFGH");
     EXPECT_EQ(Written(Text(5, L"")), L"     ");
 }
 
-TEST(TextForm, LeavesLeftInForce)
+TEST_P(FieldFormsOn, TextLeavesLeftInForce)
 {
-    StringArchive s;
+    SinkArchive s(GetParam());
     s.archive << Text(3, L"A") << ZText(3, L"7");
     EXPECT_EQ(s.Text(), L"A  700");
 }
 
-TEST(RTextForm, PadsInFrontUnlessLeftIsInForce)
+TEST_P(FieldFormsOn, RTextPadsInFrontUnlessLeftIsInForce)
 {
     EXPECT_EQ(Written(RText(8, L"AB")), L"      AB");
     EXPECT_EQ(Written(RText(5, L"")), L"     ");
     EXPECT_EQ(Written(RText(3, L"ABCD")), L"ABC");
 
-    StringArchive s;
+    SinkArchive s(GetParam());
     s.archive << Text(2, L"X") << RText(4, L"AB") << RText(4, L"CD", Adjust::right);
     EXPECT_EQ(s.Text(), L"X AB    CD");
 }
 
-TEST(RTextForm, InternalLeftByAnSIntPadsInFront)
+TEST_P(FieldFormsOn, RTextInternalLeftByAnSIntPadsInFront)
 {
-    StringArchive s;
+    SinkArchive s(GetParam());
     s.archive << SInt(2, 5) << RText(5, L"AB");
     EXPECT_EQ(s.Text(), L"+05   AB");
 }
 
-TEST(ZTextForm, FillsWithZeros)
+TEST_P(FieldFormsOn, ZTextFillsWithZeros)
 {
     EXPECT_EQ(Written(ZText(3, L"7")), L"007");
     EXPECT_EQ(Written(ZText(5, L"")), L"00000");
     EXPECT_EQ(Written(ZText(3, L"12345")), L"123");
 }
 
-TEST(ZTextWholeForm, IsNotCut)
+TEST_P(FieldFormsOn, ZTextWholeIsNotCut)
 {
     EXPECT_EQ(Written(ZTextWhole(3, L"12345")), L"12345");
     EXPECT_EQ(Written(ZTextWhole(3, L"")), L"000");
-    StringArchive s;
+    SinkArchive s(GetParam());
     s.archive << Text(1, L"") << ZTextWhole(3, L"7");
     EXPECT_EQ(s.Text(), L" 007");
 }
 
-TEST(UIntForm, ZeroFilledWithSignBehindTheZeros)
+TEST_P(FieldFormsOn, UIntZeroFilledWithSignBehindTheZeros)
 {
     EXPECT_EQ(Written(UInt(5, 42)), L"00042");
     EXPECT_EQ(Written(UInt(5, -42)), L"00-42");
@@ -77,22 +156,25 @@ TEST(UIntForm, ZeroFilledWithSignBehindTheZeros)
     EXPECT_EQ(Written(UInt(3, std::uint8_t{1})), L"001");
 }
 
-TEST(UIntForm, DropsAPlusSignLeftByAnSInt)
+TEST_P(FieldFormsOn, UIntDropsAPlusSignLeftByAnSInt)
 {
-    StringArchive s;
+    SinkArchive s(GetParam());
     s.archive << SInt(2, 1) << UInt(3, 4);
     EXPECT_EQ(s.Text(), L"+01004");
 }
 
-TEST(SIntForm, SignFirstThenDigits)
+TEST_P(FieldFormsOn, SIntSignFirstThenDigits)
 {
     EXPECT_EQ(Written(SInt(5, 42)), L"+00042");
     EXPECT_EQ(Written(SInt(5, -42)), L"-00042");
     EXPECT_EQ(Written(SInt(5, 0)), L"+00000");
     EXPECT_EQ(Written(SInt(2, 12345)), L"+12345");
+    // Only a signed type shows a plus sign.
+    EXPECT_EQ(Written(SInt(5, 7U)), L"000007");
+    EXPECT_EQ(Written(SInt(3, std::int64_t{-9223372036854775807LL - 1})), L"-9223372036854775808");
 }
 
-TEST(RealForm, FixedPlacesAroundThePoint)
+TEST_P(FieldFormsOn, RealFixedPlacesAroundThePoint)
 {
     EXPECT_EQ(Written(Real(4, 3, 12.5)), L"0012.500");
     EXPECT_EQ(Written(Real(4, 3, -12.5)), L"0-12.500");
@@ -102,7 +184,7 @@ TEST(RealForm, FixedPlacesAroundThePoint)
     EXPECT_EQ(Written(Real(5, 1, 0.0)), L"00000.0");
 }
 
-TEST(RealForm, RoundsTheExactValueOfTheDouble)
+TEST_P(FieldFormsOn, RealRoundsTheExactValueOfTheDouble)
 {
     // 0.0625 is exact in binary: a tie at three places, rounded to even.
     EXPECT_EQ(Written(Real(1, 3, 0.0625)), L"0.062");
@@ -112,30 +194,30 @@ TEST(RealForm, RoundsTheExactValueOfTheDouble)
     EXPECT_EQ(Written(Real(2, 3, 1.0005)), L"01.000");
 }
 
-TEST(RealForm, LeavesAPlusSignInForce)
+TEST_P(FieldFormsOn, RealLeavesAPlusSignInForce)
 {
-    StringArchive s;
+    SinkArchive s(GetParam());
     s.archive << SInt(1, 1) << Real(1, 1, 2.5);
     EXPECT_EQ(s.Text(), L"+1+2.5");
 }
 
-TEST(HexForm, UpperCaseFullPatternThenBackToDecimal)
+TEST_P(FieldFormsOn, HexUpperCaseFullPatternThenBackToDecimal)
 {
     EXPECT_EQ(Written(Hex(4, 255)), L"00FF");
     EXPECT_EQ(Written(Hex(4, -1)), L"FFFFFFFF");
-    StringArchive s;
+    SinkArchive s(GetParam());
     s.archive << SInt(1, 1) << Hex(4, 10) << UInt(3, 10);
     EXPECT_EQ(s.Text(), L"+1000A010");
 }
 
-TEST(CharForm, OneCharacterWithoutFill)
+TEST_P(FieldFormsOn, CharOneCharacterWithoutFill)
 {
-    StringArchive s;
+    SinkArchive s(GetParam());
     s.archive << Char(L'S') << Blank << Char(L'K');
     EXPECT_EQ(s.Text(), L"S K");
 }
 
-TEST(BlankForms, WriteBlanksOnly)
+TEST_P(FieldFormsOn, BlanksWriteBlanksOnly)
 {
     EXPECT_EQ(Written(Blank), L" ");
     EXPECT_EQ(Written(Blanks(3)), L"   ");
@@ -143,29 +225,47 @@ TEST(BlankForms, WriteBlanksOnly)
     EXPECT_EQ(Written(Blanks(-1)), L"");
 }
 
-TEST(BlankForms, RunWithWidthZeroAfterAField)
+TEST_P(FieldFormsOn, BlanksRunWithWidthZeroAfterAField)
 {
-    StringArchive s;
+    SinkArchive s(GetParam());
     s.archive << UInt(3, 1) << Blank << Literal("0") << Blanks(2) << Tag("END");
     EXPECT_EQ(s.Text(), L"001 0  END\n");
 }
 
-TEST(TagForm, LiteralThenLineEnd)
+TEST_P(FieldFormsOn, TagLiteralThenLineEnd)
 {
     EXPECT_EQ(Written(Tag("HEADER__")), L"HEADER__\n");
     EXPECT_EQ(Written(Tag("END HEADER__")), L"END HEADER__\n");
     EXPECT_EQ(Written(EndLine), L"\n");
 }
 
-TEST(FieldForms, WidthIsUsedUpFlagsStay)
+TEST_P(FieldFormsOn, FieldsWidthIsUsedUpFlagsStay)
 {
-    StringArchive s;
+    SinkArchive s(GetParam());
     s.archive << UInt(4, 1);
     s.archive << 5;
     EXPECT_EQ(s.Text(), L"00015");
     EXPECT_EQ(s.archive.fill(), L'0');
     EXPECT_EQ(s.archive.width(), 0);
     EXPECT_TRUE(s.archive.flags() & std::ios_base::right);
+}
+
+// A locale imbued later is the stream's own business: from then on the
+// numbers go through its inserter, digit grouping and all, wherever they go.
+struct ThousandsDots : std::numpunct<wchar_t> {
+    wchar_t do_thousands_sep() const override { return L'.'; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+TEST_P(FieldFormsOn, ALocaleImbuedLaterFormatsTheNumbers)
+{
+    SinkArchive s(GetParam());
+    s.archive << UInt(3, 1234567);
+    s.archive << Blank;
+    s.archive.imbue(std::locale(std::locale::classic(), new ThousandsDots));
+    s.archive << UInt(3, 1234567);
+    s.archive << EndLine;
+    EXPECT_EQ(s.Text(), L"1234567 1.234.567\n");
 }
 
 } // namespace
