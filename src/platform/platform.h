@@ -30,6 +30,7 @@ private:
     void* handle_ = nullptr;
 #else
     int descriptor_ = -1;
+    bool pipe_ = false; // a pipe or a socket: a write to it can raise SIGPIPE
 #endif
 };
 

@@ -6,16 +6,19 @@
 #include <csignal>
 #include <cstdlib>
 #include <ctime>
+#include <optional>
+
 #include <fcntl.h>
 #include <pthread.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace ItUnitechnik::Platform {
 namespace {
 
 // A write into a pipe whose reader has gone raises SIGPIPE, which ends a host
-// that has not set the signal aside. Around each of the library's writes the
-// signal is blocked in the calling thread; one that the write raised is taken
+// that has not set the signal aside. Around each of the library's writes to a
+// pipe or a socket the signal is blocked in the calling thread; one that the write raised is taken
 // back before the old mask returns. The host's disposition is never touched,
 // and its mask is as it was when the write ends.
 class QuietPipe {
@@ -77,9 +80,12 @@ OutputFile::OutputFile(const std::wstring& path)
     if (!name.empty()) {
         descriptor_ = OpenForOutput(name.c_str(), O_TRUNC);
     }
+    struct stat status {};
+    pipe_ = descriptor_ >= 0 && ::fstat(descriptor_, &status) == 0 &&
+            (S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode));
 }
 
-OutputFile::OutputFile(OutputFile&& other) noexcept : descriptor_(other.descriptor_)
+OutputFile::OutputFile(OutputFile&& other) noexcept : descriptor_(other.descriptor_), pipe_(other.pipe_)
 {
     other.descriptor_ = -1;
 }
@@ -89,6 +95,7 @@ OutputFile& OutputFile::operator=(OutputFile&& other) noexcept
     if (this != &other) {
         Close();
         descriptor_ = other.descriptor_;
+        pipe_ = other.pipe_;
         other.descriptor_ = -1;
     }
     return *this;
@@ -109,15 +116,20 @@ bool OutputFile::Write(const char* bytes, std::size_t count)
     if (descriptor_ < 0) {
         return false;
     }
-    QuietPipe quiet;
+    // Only a pipe or a socket raises SIGPIPE: a file is written without
+    // the three calls around each write that keep the signal from the host.
+    std::optional<QuietPipe> quiet;
+    if (pipe_) {
+        quiet.emplace();
+    }
     while (count > 0) {
         const ssize_t written = ::write(descriptor_, bytes, count);
         if (written < 0) {
             if (errno == EINTR) {
                 continue;
             }
-            if (errno == EPIPE) {
-                quiet.Broken();
+            if (errno == EPIPE && quiet) {
+                quiet->Broken();
             }
             return false;
         }
