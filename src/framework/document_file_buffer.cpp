@@ -10,8 +10,10 @@ DocumentFileBuffer::DocumentFileBuffer(const std::wstring& path, std::size_t are
     // Without a file there is no area: the first character goes to overflow
     // and fails there.
     if (file_.IsOpen()) {
-        area_ = std::make_unique<wchar_t[]>(areaSize_);
-        bytes_ = std::make_unique<char[]>(2 * areaSize_);
+        // Left as they come: a small document touches only the pages it
+        // uses, where zeroing would touch both areas whole on every save.
+        area_.reset(new wchar_t[areaSize_]);
+        bytes_.reset(new char[2 * areaSize_]);
         ResetArea();
     }
 }
