@@ -36,47 +36,47 @@ void DocumentFileBuffer::Close()
     file_.Close();
 }
 
-bool DocumentFileBuffer::FitsAByte(wchar_t c)
-{
-    return static_cast<unsigned long>(c) <= 0xFF;
-}
-
 void DocumentFileBuffer::ResetArea()
 {
     setp(area_.get(), area_.get() + areaSize_);
     scanned_ = area_.get();
+    made_ = bytes_.get();
+}
+
+bool DocumentFileBuffer::Narrow()
+{
+    const wchar_t* const last = pptr();
+    char* out = made_;
+    const wchar_t* p = scanned_;
+    for (; p != last; ++p) {
+        // A negative character counts as above U+00FF.
+        const auto code = static_cast<std::uint32_t>(*p);
+        if (code > 0xFF) {
+            broken_ = true;
+            break;
+        }
+        // Each character its one byte; a line feed gets its CR in front.
+        if (code == L'\n') {
+            *out++ = '\r';
+        }
+        *out++ = static_cast<char>(code);
+    }
+    scanned_ = p;
+    made_ = out;
+    return !broken_;
 }
 
 bool DocumentFileBuffer::Drain()
 {
-    const wchar_t* const first = pbase();
-    const wchar_t* const last = pptr();
-    const wchar_t* const looked = scanned_;
-    ResetArea();
-    if (broken_) {
-        // What stands in the area came after the character that broke the
-        // file.
-        return false;
+    if (!broken_) {
+        Narrow();
     }
-    // Everything before `looked` was looked through by sync already.
-    const wchar_t* stop = last;
-    for (const wchar_t* p = looked; p != last; ++p) {
-        if (!FitsAByte(*p)) {
-            stop = p;
-            broken_ = true;
-            break;
-        }
-    }
+    // The bytes before a character that broke the file still reach it;
+    // what stands in the area behind it does not.
     char* const start = bytes_.get();
-    char* out = start;
-    for (const wchar_t* p = first; p != stop; ++p) {
-        // Each character its one byte; a line feed gets its CR in front.
-        if (*p == L'\n') {
-            *out++ = '\r';
-        }
-        *out++ = static_cast<char>(static_cast<unsigned char>(*p));
-    }
-    if (out != start && !file_.Write(start, static_cast<std::size_t>(out - start))) {
+    const std::size_t count = static_cast<std::size_t>(made_ - start);
+    ResetArea();
+    if (count > 0 && !file_.Write(start, count)) {
         broken_ = true;
     }
     return !broken_;
@@ -95,7 +95,7 @@ DocumentFileBuffer::int_type DocumentFileBuffer::overflow(int_type c)
         return traits_type::not_eof(c);
     }
     const wchar_t character = traits_type::to_char_type(c);
-    if (!FitsAByte(character)) {
+    if (static_cast<std::uint32_t>(character) > 0xFF) {
         broken_ = true;
         return traits_type::eof();
     }
@@ -109,19 +109,12 @@ int DocumentFileBuffer::sync()
     if (broken_) {
         return -1;
     }
-    // Every character's bits together: above 0xFF when one of them is (a
-    // negative character counts as above).
-    std::uint32_t bits = 0;
-    for (const wchar_t* p = scanned_; p != pptr(); ++p) {
-        bits |= static_cast<std::uint32_t>(*p);
-    }
-    if (bits > 0xFF) {
+    if (!Narrow()) {
         // The bytes before the character go to the file now; the file is
         // broken from it on.
         Drain();
         return -1;
     }
-    scanned_ = pptr();
     return 0;
 }
 

@@ -19,10 +19,10 @@ namespace ItUnitechnik {
 // Over a file that could not be opened the first character fails.
 //
 // The characters collect in a put area of the buffer's own, so that the
-// stream hands them over without a call per character; they become bytes and
-// go to the file when the area is full and when the buffer closes. A sync,
-// which every line end asks for, only looks through the characters put since
-// the last one for a character above U+00FF.
+// stream hands them over without a call per character; they go to the file
+// when the area is full and when the buffer closes. A sync, which every line
+// end asks for, makes the bytes of the characters put since the last one, in
+// the same pass that looks for a character above U+00FF.
 class DocumentFileBuffer : public FieldBuffer {
 public:
     static constexpr std::size_t defaultAreaSize = std::size_t{32} * 1024; // characters; 64 KiB of file or less
@@ -43,10 +43,11 @@ protected:
     int sync() override;
 
 private:
-    static bool FitsAByte(wchar_t c);
-    // Turns the characters of the put area into bytes, up to the first one
-    // above U+00FF, writes them and empties the area. False once the file is
-    // broken.
+    // Makes the bytes of the characters put since the last sync, up to the
+    // first one above U+00FF, which breaks the file. False when it has.
+    bool Narrow();
+    // Narrows what is left, writes the bytes and empties the area. False
+    // once the file is broken.
     bool Drain();
     void ResetArea();
 
@@ -54,7 +55,8 @@ private:
     std::size_t areaSize_;
     std::unique_ptr<wchar_t[]> area_;
     std::unique_ptr<char[]> bytes_;    // two bytes for each character at most
-    const wchar_t* scanned_ = nullptr; // the area before this was looked through by sync
+    const wchar_t* scanned_ = nullptr; // the area before this is made into bytes already
+    char* made_ = nullptr;             // behind the bytes made so far
     bool broken_ = false;
 };
 

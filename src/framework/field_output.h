@@ -3,6 +3,7 @@
 #include "framework/field_buffer.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <ostream>
 
 // How a field's characters reach the stream: straight into the put area of
@@ -93,17 +94,54 @@ inline bool StorePadded(FieldBuffer& direct, const wchar_t* text, std::size_t le
     return true;
 }
 
+// The number of decimal digits of `magnitude`, at least one.
+inline std::size_t DecimalDigitCount(unsigned long long magnitude)
+{
+    std::size_t count = 1;
+    for (; magnitude >= 10000; magnitude /= 10000) {
+        count += 4;
+    }
+    return count + (magnitude >= 10 ? 1 : 0) + (magnitude >= 100 ? 1 : 0) + (magnitude >= 1000 ? 1 : 0);
+}
+
+// The decimal digits of `magnitude`, the last one stored right before `end`,
+// two at a time; in 32 bits where the number fits, which is the common case
+// and the quicker division.
+template <class Unsigned>
+void StoreDecimalDigits(wchar_t* end, Unsigned magnitude)
+{
+    static constexpr char pairs[] = "00010203040506070809"
+                                    "10111213141516171819"
+                                    "20212223242526272829"
+                                    "30313233343536373839"
+                                    "40414243444546474849"
+                                    "50515253545556575859"
+                                    "60616263646566676869"
+                                    "70717273747576777879"
+                                    "80818283848586878889"
+                                    "90919293949596979899";
+    while (magnitude >= 100) {
+        const auto pair = static_cast<std::size_t>(magnitude % 100) * 2;
+        magnitude /= 100;
+        *--end = static_cast<wchar_t>(pairs[pair + 1]);
+        *--end = static_cast<wchar_t>(pairs[pair]);
+    }
+    if (magnitude >= 10) {
+        const auto pair = static_cast<std::size_t>(magnitude) * 2;
+        *--end = static_cast<wchar_t>(pairs[pair + 1]);
+        *--end = static_cast<wchar_t>(pairs[pair]);
+    } else {
+        *--end = static_cast<wchar_t>(L'0' + static_cast<int>(magnitude));
+    }
+}
+
 // A decimal integer straight into the put area, zero-filled to `width`:
-// [zeros][sign][digits], or [sign][zeros][digits] when `internal`; the
-// digits are made in their places. No sign when `sign` is 0. False, with
-// nothing put, when the area has no room.
+// [zeros][sign][digits], or [sign][zeros][digits] when `internal`. No sign
+// when `sign` is 0. False, with nothing put, when the area has no room.
 inline bool StoreZeroFilledDecimal(FieldBuffer& direct, unsigned long long magnitude, wchar_t sign, int width,
                                    bool internal)
 {
-    std::size_t digitCount = 1;
-    for (unsigned long long rest = magnitude; rest >= 10; rest /= 10) {
-        ++digitCount;
-    }
+    const std::size_t digitCount = DecimalDigitCount(magnitude);
     const std::size_t length = digitCount + (sign != 0 ? 1 : 0);
     const std::size_t padding = width > static_cast<int>(length) ? static_cast<std::size_t>(width) - length : 0;
     wchar_t* out = direct.Room(length + padding);
@@ -117,9 +155,10 @@ inline bool StoreZeroFilledDecimal(FieldBuffer& direct, unsigned long long magni
     if (sign != 0 && !internal) {
         *out++ = sign;
     }
-    for (wchar_t* digit = out + digitCount; digit != out;) {
-        *--digit = static_cast<wchar_t>(L'0' + static_cast<int>(magnitude % 10));
-        magnitude /= 10;
+    if (magnitude <= 0xFFFFFFFFULL) {
+        StoreDecimalDigits(out + digitCount, static_cast<std::uint32_t>(magnitude));
+    } else {
+        StoreDecimalDigits(out + digitCount, magnitude);
     }
     direct.Advance(length + padding);
     return true;
@@ -144,10 +183,9 @@ inline wchar_t* StoreSignedDigits(wchar_t* end, const IntegerValue& value, bool 
         } while (magnitude != 0);
         return first;
     }
-    do {
-        *--first = static_cast<wchar_t>(L'0' + static_cast<int>(magnitude % 10));
-        magnitude /= 10;
-    } while (magnitude != 0);
+    const std::size_t digitCount = DecimalDigitCount(magnitude);
+    StoreDecimalDigits(end, magnitude);
+    first = end - digitCount;
     if (value.negative) {
         *--first = L'-';
         prefix = 1;
