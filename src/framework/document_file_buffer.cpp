@@ -1,7 +1,5 @@
 #include "framework/document_file_buffer.h"
 
-#include <cstdint>
-
 namespace ItUnitechnik {
 
 DocumentFileBuffer::DocumentFileBuffer(const std::wstring& path, std::size_t areaSize)
@@ -49,17 +47,17 @@ bool DocumentFileBuffer::Narrow()
     char* out = made_;
     const wchar_t* p = scanned_;
     for (; p != last; ++p) {
+        const wchar_t c = *p;
         // A negative character counts as above U+00FF.
-        const auto code = static_cast<std::uint32_t>(*p);
-        if (code > 0xFF) {
+        if (static_cast<unsigned long>(c) > 0xFFUL) {
             broken_ = true;
             break;
         }
         // Each character its one byte; a line feed gets its CR in front.
-        if (code == L'\n') {
+        if (c == L'\n') {
             *out++ = '\r';
         }
-        *out++ = static_cast<char>(code);
+        *out++ = static_cast<char>(static_cast<unsigned char>(c));
     }
     scanned_ = p;
     made_ = out;
@@ -95,7 +93,7 @@ DocumentFileBuffer::int_type DocumentFileBuffer::overflow(int_type c)
         return traits_type::not_eof(c);
     }
     const wchar_t character = traits_type::to_char_type(c);
-    if (static_cast<std::uint32_t>(character) > 0xFF) {
+    if (static_cast<unsigned long>(character) > 0xFFUL) {
         broken_ = true;
         return traits_type::eof();
     }

@@ -160,24 +160,32 @@ TEST_P(FieldFormsOn, UIntEveryNumberOfDigits)
 {
     // The digits are made two at a time: each count of digits, odd and even,
     // on both sides of a power of ten and of 32 bits.
-    EXPECT_EQ(Written(UInt(1, 0)), L"0");
-    EXPECT_EQ(Written(UInt(1, 9)), L"9");
-    EXPECT_EQ(Written(UInt(1, 10)), L"10");
-    EXPECT_EQ(Written(UInt(1, 99)), L"99");
-    EXPECT_EQ(Written(UInt(1, 100)), L"100");
-    EXPECT_EQ(Written(UInt(1, 907)), L"907");
-    EXPECT_EQ(Written(UInt(1, 9999)), L"9999");
-    EXPECT_EQ(Written(UInt(1, 10000)), L"10000");
-    EXPECT_EQ(Written(UInt(1, 54321)), L"54321");
-    EXPECT_EQ(Written(UInt(1, 123456)), L"123456");
-    EXPECT_EQ(Written(UInt(1, 99999999)), L"99999999");
-    EXPECT_EQ(Written(UInt(1, 100000000)), L"100000000");
-    EXPECT_EQ(Written(UInt(1, 2147483647)), L"2147483647");
+    const struct {
+        std::uint64_t value;
+        const wchar_t* text;
+    } cases[] = {
+        {0, L"0"},
+        {9, L"9"},
+        {10, L"10"},
+        {99, L"99"},
+        {100, L"100"},
+        {907, L"907"},
+        {9999, L"9999"},
+        {10000, L"10000"},
+        {54321, L"54321"},
+        {123456, L"123456"},
+        {99999999, L"99999999"},
+        {100000000, L"100000000"},
+        {2147483647, L"2147483647"},
+        {4294967295U, L"4294967295"},
+        {4294967296ULL, L"4294967296"},
+        {10000000000ULL, L"10000000000"},
+        {18446744073709551615ULL, L"18446744073709551615"},
+    };
+    for (const auto& one : cases) {
+        EXPECT_EQ(Written(UInt(1, one.value)), one.text);
+    }
     EXPECT_EQ(Written(UInt(1, -2147483647 - 1)), L"-2147483648");
-    EXPECT_EQ(Written(UInt(1, 4294967295U)), L"4294967295");
-    EXPECT_EQ(Written(UInt(1, std::uint64_t{4294967296ULL})), L"4294967296");
-    EXPECT_EQ(Written(UInt(1, std::uint64_t{10000000000ULL})), L"10000000000");
-    EXPECT_EQ(Written(UInt(1, std::uint64_t{18446744073709551615ULL})), L"18446744073709551615");
     EXPECT_EQ(Written(UInt(12, std::int64_t{-12345678901LL})), L"-12345678901");
     EXPECT_EQ(Written(SInt(12, std::int64_t{98765432109LL})), L"+098765432109");
 }
