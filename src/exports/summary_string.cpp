@@ -7,7 +7,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <new>
+#include <limits>
 #include <streambuf>
 
 using ItUnitechnik::Archive;
@@ -37,57 +37,37 @@ it_char16* AsResult(const it_char16* constant)
     return const_cast<it_char16*>(constant);
 }
 
-// The wide stream buffers of the summary: a line ends in a line feed alone,
-// and every character becomes one 16-bit unit of the host's text. The text
-// is made twice: once to count its units, then straight into a block of just
-// that size, so that it is neither held a second time nor copied.
-class CountingBuffer : public ItUnitechnik::FieldBuffer {
+// The wide stream buffer of the summary: a line ends in a line feed alone,
+// and every character becomes one 16-bit unit of the host's text. The units
+// go straight into the block the host is given, which doubles as the text
+// grows and is cut to the text's length at the end: the text is made once,
+// and an allocator that can move a large block without copying it (as
+// realloc maps it anew) does not copy it at all.
+class HostTextBuffer : public ItUnitechnik::FieldBuffer {
 public:
-    CountingBuffer() { setp(area_, area_ + areaSize); }
+    HostTextBuffer() { setp(area_, area_ + areaSize); }
+    HostTextBuffer(const HostTextBuffer&) = delete;
+    HostTextBuffer& operator=(const HostTextBuffer&) = delete;
+    ~HostTextBuffer() override { ItUnitechnik::Platform::FreeHostBlock(block_); }
 
-    std::size_t Count() const { return counted_ + static_cast<std::size_t>(pptr() - pbase()); }
+    // Memory ran out: the text stops where the block could not grow.
+    bool OutOfMemory() const { return outOfMemory_; }
 
-protected:
-    int_type overflow(int_type c) override
-    {
-        counted_ += static_cast<std::size_t>(pptr() - pbase());
-        setp(area_, area_ + areaSize);
-        if (!traits_type::eq_int_type(c, traits_type::eof())) {
-            *pptr() = traits_type::to_char_type(c);
-            pbump(1);
-        }
-        return traits_type::not_eof(c);
-    }
-
-private:
-    static constexpr std::size_t areaSize = 4096;
-    wchar_t area_[areaSize];
-    std::size_t counted_ = 0;
-};
-
-class BlockBuffer : public ItUnitechnik::FieldBuffer {
-public:
-    // A block for `count` units and the terminator.
-    explicit BlockBuffer(std::size_t count) : count_(count)
-    {
-        block_ = static_cast<it_char16*>(ItUnitechnik::Platform::AllocateHostBlock(sizeof(it_char16) * (count + 1)));
-        if (block_ == nullptr) {
-            // The export's handler gives the host "ERROR MEMORY".
-            throw std::bad_alloc();
-        }
-        setp(area_, area_ + areaSize);
-    }
-    BlockBuffer(const BlockBuffer&) = delete;
-    BlockBuffer& operator=(const BlockBuffer&) = delete;
-    ~BlockBuffer() override { ItUnitechnik::Platform::FreeHostBlock(block_); }
-
-    // The block with the text and its terminator; the host owns it from
-    // here on.
+    // The block with the text and its terminator, of 2 * (length + 1)
+    // bytes; the host owns it from here on. Null when memory ran out.
     it_char16* Take()
     {
-        Drain();
+        if (!Drain() || !Reserve(done_ + 1)) {
+            return nullptr;
+        }
         block_[done_] = 0;
-        it_char16* block = block_;
+        const std::size_t bytes = sizeof(it_char16) * (done_ + 1);
+        // A block that cannot be cut keeps its length: the host frees it
+        // all the same.
+        if (void* const cut = ItUnitechnik::Platform::ResizeHostBlock(block_, bytes)) {
+            block_ = static_cast<it_char16*>(cut);
+        }
+        it_char16* const block = block_;
         block_ = nullptr;
         return block;
     }
@@ -107,25 +87,52 @@ protected:
 
 private:
     static constexpr std::size_t areaSize = 4096;
+    static constexpr std::size_t firstCapacity = std::size_t{64} * 1024; // units
+
+    // Room in the block for `units` units in all.
+    bool Reserve(std::size_t units)
+    {
+        if (units <= capacity_) {
+            return true;
+        }
+        constexpr std::size_t most = std::numeric_limits<std::size_t>::max() / (2 * sizeof(it_char16));
+        std::size_t capacity = std::max(firstCapacity, capacity_);
+        while (capacity < units && capacity <= most) {
+            capacity *= 2;
+        }
+        void* const grown =
+            capacity >= units ? ItUnitechnik::Platform::ResizeHostBlock(block_, sizeof(it_char16) * capacity) : nullptr;
+        if (grown == nullptr) {
+            outOfMemory_ = true;
+            return false;
+        }
+        block_ = static_cast<it_char16*>(grown);
+        capacity_ = capacity;
+        return true;
+    }
 
     // The put area's characters as units behind the text so far; false,
-    // and nothing more taken, once the block is full.
+    // and nothing taken, when the block cannot hold them.
     bool Drain()
     {
-        const std::size_t count = std::min(static_cast<std::size_t>(pptr() - pbase()), count_ - done_);
-        for (std::size_t i = 0; i < count; ++i) {
-            block_[done_ + i] = static_cast<it_char16>(area_[i]);
+        const auto count = static_cast<std::size_t>(pptr() - pbase());
+        if (!Reserve(done_ + count)) {
+            return false;
         }
-        const bool all = count == static_cast<std::size_t>(pptr() - pbase());
+        it_char16* const out = block_ + done_;
+        for (std::size_t i = 0; i < count; ++i) {
+            out[i] = static_cast<it_char16>(area_[i]);
+        }
         done_ += count;
         setp(area_, area_ + areaSize);
-        return all;
+        return true;
     }
 
     wchar_t area_[areaSize];
     it_char16* block_ = nullptr;
-    std::size_t count_;
-    std::size_t done_ = 0;
+    std::size_t capacity_ = 0; // units the block holds
+    std::size_t done_ = 0;     // units of text in it
+    bool outOfMemory_ = false;
 };
 
 // The five records, each right behind the one before, through one stream:
@@ -166,15 +173,12 @@ try {
     if (element == nullptr) {
         return AsResult(kEmpty);
     }
-    CountingBuffer counting;
-    if (const it_char16* error = WriteSummary(*element, counting)) {
-        return AsResult(error);
+    HostTextBuffer text;
+    if (const it_char16* error = WriteSummary(*element, text)) {
+        return AsResult(text.OutOfMemory() ? kErrorMemory : error);
     }
-    BlockBuffer block(counting.Count());
-    if (const it_char16* error = WriteSummary(*element, block)) {
-        return AsResult(error);
-    }
-    return block.Take();
+    it_char16* const block = text.Take();
+    return block != nullptr ? block : AsResult(kErrorMemory);
 } catch (...) {
     return AsResult(kErrorMemory);
 }

@@ -127,6 +127,11 @@ void* AllocateHostBlock(std::size_t bytes)
     return ::CoTaskMemAlloc(bytes);
 }
 
+void* ResizeHostBlock(void* block, std::size_t bytes)
+{
+    return ::CoTaskMemRealloc(block, bytes);
+}
+
 void FreeHostBlock(void* block)
 {
     ::CoTaskMemFree(block);

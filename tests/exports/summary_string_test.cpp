@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cwchar>
 #include <memory>
 #include <string>
 
@@ -164,6 +166,36 @@ TEST_F(SummaryStringTest, AReinforcedElementAt502)
                                   Blanks(23) +
                                   L"B\u00fcgel \u03a9\n"
                                   L"END\n";
+    EXPECT_EQ(Summary(), expected);
+}
+
+// Thousands of bars: the text grows far past the first block and through
+// the buffer's area many times over, and comes out whole.
+TEST_F(SummaryStringTest, ALongTextComesOutWhole)
+{
+    Start(502);
+    const int count = 3000;
+    ItBarBlock bar{};
+    bar.designation = HostText(u"B12");
+    bar.rodKind = 1;
+    bar.firstSize = 3000;
+    bar.secondSize = 12;
+    bar.positionY = 60;
+    bar.positionZ = 25;
+    std::wstring bars;
+    for (int i = 0; i < count; ++i) {
+        bar.positionX = i;
+        addStraightRodstock(&bar);
+        wchar_t line[96];
+        std::swprintf(line, 96, L"%03d 000 1 B12 03000 012 00000 +%05d +00060 +00025 +000            0\n", i + 1, i);
+        bars += line;
+        bars += L"000 000 000 00000 00000 00000 000\n";
+    }
+    const std::wstring expected = L"MOUNPART\n502\n000\nEND\n"
+                                  L"RODSTOCK\n502\n3000\n" +
+                                  bars + L"END\nBRGIRDER\n502\n000\nEND\nREFORCEM\n502\n" + Blanks(25) +
+                                  L"0\nEND\nEND REFORCEM\nEXTIRON_\n502\n000\nEND\n";
+    ASSERT_GT(expected.size(), std::size_t{4} * 64 * 1024);
     EXPECT_EQ(Summary(), expected);
 }
 
