@@ -41,11 +41,44 @@ void DocumentFileBuffer::ResetArea()
     made_ = bytes_.get();
 }
 
+namespace {
+
+// Makes each character of the line its byte at `out`, and tells whether
+// none of them was a line feed or above U+00FF; when one was, what it made
+// is not to be used. One pass without a branch in it, which the compiler
+// makes into vector operations: the bits of all characters together show one
+// above U+00FF (a negative one included, whose high bits are set).
+bool NarrowPlainLine(const wchar_t* line, std::size_t count, char* out)
+{
+    wchar_t bits = 0;
+    wchar_t lineFeeds = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        const wchar_t c = line[i];
+        out[i] = static_cast<char>(static_cast<unsigned char>(c));
+        bits |= c;
+        lineFeeds |= c == L'\n' ? wchar_t{1} : wchar_t{0};
+    }
+    return static_cast<unsigned long>(bits) <= 0xFFUL && lineFeeds == 0;
+}
+
+} // namespace
+
 bool DocumentFileBuffer::Narrow()
 {
     const wchar_t* const last = pptr();
     char* out = made_;
     const wchar_t* p = scanned_;
+    // The common case, a whole line whose only line feed is its end: its
+    // characters are its bytes, then CR LF.
+    const auto count = static_cast<std::size_t>(last - p);
+    if (count > 0 && p[count - 1] == L'\n' && NarrowPlainLine(p, count - 1, out)) {
+        out += count - 1;
+        *out++ = '\r';
+        *out++ = '\n';
+        scanned_ = last;
+        made_ = out;
+        return true;
+    }
     for (; p != last; ++p) {
         const wchar_t c = *p;
         // A negative character counts as above U+00FF.

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <cwchar>
 #include <locale>
 #include <string>
 #include <utility>
@@ -129,6 +130,50 @@ TEST(DocumentFileBuffer, ACharacterAboveFFAtTheBoundaryOfTheArea)
         EXPECT_FALSE(last.second);
     }
 }
+
+// A line is made into bytes in one pass over all its characters; what comes
+// out must not depend on where in the line the odd character stands.
+TEST(DocumentFileBuffer, ACharacterAboveFFAtEveryPlaceOfALongLine)
+{
+    const std::size_t length = 70;
+    for (std::size_t place = 0; place < length; ++place) {
+        SCOPED_TRACE(place);
+        std::wstring line(length, L'A');
+        line[place] = L'\u0100';
+        const auto [bytes, healthy] = WrittenThrough(DocumentFileBuffer::defaultAreaSize, {L"FIRST", line, L"LAST"});
+        EXPECT_EQ(bytes, "FIRST\r\n" + std::string(place, 'A'));
+        EXPECT_FALSE(healthy);
+    }
+}
+
+TEST(DocumentFileBuffer, ALineFeedAtEveryPlaceOfALongLine)
+{
+    const std::size_t length = 70;
+    for (std::size_t place = 0; place < length; ++place) {
+        SCOPED_TRACE(place);
+        std::wstring line(length, L'\u00E9');
+        line[place] = L'\n';
+        const auto [bytes, healthy] = WrittenThrough(DocumentFileBuffer::defaultAreaSize, {line, L"END"});
+        EXPECT_EQ(bytes, std::string(place, '\xE9') + "\r\n" + std::string(length - 1 - place, '\xE9') + "\r\nEND\r\n");
+        EXPECT_TRUE(healthy);
+    }
+}
+
+#if WCHAR_MAX > 0xFFFF
+// Where wchar_t is 32 bits wide, a character beyond the 16-bit range, and
+// where it is signed, a negative one: both count as above U+00FF.
+TEST(DocumentFileBuffer, ACharacterBeyondSixteenBitsOrNegativeBreaksTheFile)
+{
+    for (const wchar_t odd : {static_cast<wchar_t>(0x10041), static_cast<wchar_t>(WCHAR_MIN)}) {
+        SCOPED_TRACE(static_cast<long long>(odd));
+        std::wstring line = L"ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+        line[20] = odd;
+        const auto [bytes, healthy] = WrittenThrough(DocumentFileBuffer::defaultAreaSize, {L"FIRST", line});
+        EXPECT_EQ(bytes, std::string("FIRST\r\nABCDEFGHIJKLMNOPQRST"));
+        EXPECT_FALSE(healthy);
+    }
+}
+#endif
 
 TEST(DocumentFileBuffer, TheStreamGoesBadByTheEndOfTheLine)
 {
