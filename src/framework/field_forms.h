@@ -115,8 +115,10 @@ IntegerForm<T> Hex(int width, T value, const char* member = nullptr)
     return {IntegerForm<T>::Kind::hexField, width, value, member};
 }
 
+// An integer field through the stream's state and the inserter's rules,
+// for every case the direct path below leaves alone.
 template <class Stream, class T>
-void PutField(Stream& os, const IntegerForm<T>& form, FieldBuffer* direct)
+void PutIntegerThroughStream(Stream& os, const IntegerForm<T>& form)
 {
     using Kind = typename IntegerForm<T>::Kind;
     switch (form.kind) {
@@ -156,17 +158,6 @@ void PutField(Stream& os, const IntegerForm<T>& form, FieldBuffer* direct)
         plain.magnitude = value;
     }
     const bool hexadecimal = form.kind == Kind::hexField;
-    // A decimal field in the form's own zero fill and adjustment, its digits
-    // made in place; the rest goes through the stream's state.
-    if (direct != nullptr && !hexadecimal && Fields::OwnDigits(os.flags(), false)) {
-        const bool signedField = form.kind == Kind::signedField;
-        const wchar_t sign = plain.negative ? L'-' : signedField && plain.signedType ? L'+' : L'\0';
-        if (Fields::StoreZeroFilledDecimal(*direct, plain.magnitude, sign, signedField ? form.width + 1 : form.width,
-                                           signedField)) {
-            os.width(0);
-            return;
-        }
-    }
     if (!Fields::PutInteger(os, plain, hexadecimal)) {
         os << value;
     }
@@ -174,6 +165,49 @@ void PutField(Stream& os, const IntegerForm<T>& form, FieldBuffer* direct)
         os.setf(std::ios_base::dec, std::ios_base::basefield);
         os.unsetf(std::ios_base::uppercase);
     }
+}
+
+// A decimal field goes straight into the put area in the form's own zero
+// fill and adjustment, its digits made in place, and leaves the stream's
+// state as the inserter would; the rest goes through the stream. Small, so
+// that the compiler may make it inline where the field is put.
+template <class Stream, class T>
+inline void PutField(Stream& os, const IntegerForm<T>& form, FieldBuffer* direct)
+{
+    using Kind = typename IntegerForm<T>::Kind;
+    if (direct != nullptr && form.kind != Kind::hexField) {
+        const bool signedField = form.kind == Kind::signedField;
+        os.fill(L'0');
+        if (signedField) {
+            os.setf(std::ios_base::internal, std::ios_base::adjustfield);
+            os.setf(std::ios_base::showpos);
+        } else {
+            os.unsetf(std::ios_base::showpos);
+            os.setf(std::ios_base::right, std::ios_base::adjustfield);
+        }
+        if (Fields::OwnDigits(os.flags(), false)) {
+            // A byte is a number here, never a character; only a signed
+            // type shows a plus sign.
+            using Value = std::conditional_t<sizeof(T) == 1, int, T>;
+            const Value value = static_cast<Value>(form.value);
+            bool negative = false;
+            unsigned long long magnitude = 0;
+            if constexpr (std::is_signed<Value>::value) {
+                negative = value < 0;
+                const auto wide = static_cast<unsigned long long>(static_cast<long long>(value));
+                magnitude = negative ? 0ULL - wide : wide;
+            } else {
+                magnitude = value;
+            }
+            const wchar_t sign = negative ? L'-' : signedField && std::is_signed<Value>::value ? L'+' : L'\0';
+            if (Fields::StoreZeroFilledDecimal(*direct, magnitude, sign, signedField ? form.width + 1 : form.width,
+                                               signedField)) {
+                os.width(0);
+                return;
+            }
+        }
+    }
+    PutIntegerThroughStream(os, form);
 }
 
 template <class T>

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <ostream>
 
 // How a field's characters reach the stream: straight into the put area of
@@ -104,36 +105,59 @@ inline std::size_t DecimalDigitCount(unsigned long long magnitude)
     return count + (magnitude >= 10 ? 1 : 0) + (magnitude >= 100 ? 1 : 0) + (magnitude >= 1000 ? 1 : 0);
 }
 
+// The digits 00 to 99, two characters each.
+inline constexpr char digitPairs[] = "00010203040506070809"
+                                     "10111213141516171819"
+                                     "20212223242526272829"
+                                     "30313233343536373839"
+                                     "40414243444546474849"
+                                     "50515253545556575859"
+                                     "60616263646566676869"
+                                     "70717273747576777879"
+                                     "80818283848586878889"
+                                     "90919293949596979899";
+
+// The two digits of `pair` (below 100) stored right before `end`.
+inline wchar_t* StoreDigitPair(wchar_t* end, std::size_t pair)
+{
+    *--end = static_cast<wchar_t>(digitPairs[2 * pair + 1]);
+    *--end = static_cast<wchar_t>(digitPairs[2 * pair]);
+    return end;
+}
+
 // The decimal digits of `magnitude`, the last one stored right before `end`,
 // two at a time; in 32 bits where the number fits, which is the common case
 // and the quicker division.
 template <class Unsigned>
 void StoreDecimalDigits(wchar_t* end, Unsigned magnitude)
 {
-    static constexpr char pairs[] = "00010203040506070809"
-                                    "10111213141516171819"
-                                    "20212223242526272829"
-                                    "30313233343536373839"
-                                    "40414243444546474849"
-                                    "50515253545556575859"
-                                    "60616263646566676869"
-                                    "70717273747576777879"
-                                    "80818283848586878889"
-                                    "90919293949596979899";
     while (magnitude >= 100) {
-        const auto pair = static_cast<std::size_t>(magnitude % 100) * 2;
+        end = StoreDigitPair(end, static_cast<std::size_t>(magnitude % 100));
         magnitude /= 100;
-        *--end = static_cast<wchar_t>(pairs[pair + 1]);
-        *--end = static_cast<wchar_t>(pairs[pair]);
     }
     if (magnitude >= 10) {
-        const auto pair = static_cast<std::size_t>(magnitude) * 2;
-        *--end = static_cast<wchar_t>(pairs[pair + 1]);
-        *--end = static_cast<wchar_t>(pairs[pair]);
+        StoreDigitPair(end, static_cast<std::size_t>(magnitude));
     } else {
         *--end = static_cast<wchar_t>(L'0' + static_cast<int>(magnitude));
     }
 }
+
+// Exactly `places` digits of `magnitude`, which has no more, zeros in front,
+// the last one stored right before `end`: the zero fill comes with the
+// digits.
+inline void StoreFixedDigits(wchar_t* end, std::uint32_t magnitude, int places)
+{
+    for (; places >= 2; places -= 2) {
+        end = StoreDigitPair(end, magnitude % 100);
+        magnitude /= 100;
+    }
+    if (places == 1) {
+        *--end = static_cast<wchar_t>(L'0' + static_cast<int>(magnitude));
+    }
+}
+
+// 10 to the power of the index, up to the most places StoreFixedDigits takes.
+inline constexpr std::uint32_t powersOfTen[] = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000};
 
 // A decimal integer straight into the put area, zero-filled to `width`:
 // [zeros][sign][digits], or [sign][zeros][digits] when `internal`. No sign
@@ -141,6 +165,22 @@ void StoreDecimalDigits(wchar_t* end, Unsigned magnitude)
 inline bool StoreZeroFilledDecimal(FieldBuffer& direct, unsigned long long magnitude, wchar_t sign, int width,
                                    bool internal)
 {
+    // The common case: the digits of a number of the width's size, the sign
+    // (if any) in front of them.
+    const int places = width - (sign != 0 ? 1 : 0);
+    if ((sign == 0 || internal) && places > 0 && places < static_cast<int>(std::size(powersOfTen)) &&
+        magnitude < powersOfTen[places]) {
+        wchar_t* out = direct.Room(static_cast<std::size_t>(width));
+        if (out == nullptr) {
+            return false;
+        }
+        if (sign != 0) {
+            *out++ = sign;
+        }
+        StoreFixedDigits(out + places, static_cast<std::uint32_t>(magnitude), places);
+        direct.Advance(static_cast<std::size_t>(width));
+        return true;
+    }
     const std::size_t digitCount = DecimalDigitCount(magnitude);
     const std::size_t length = digitCount + (sign != 0 ? 1 : 0);
     const std::size_t padding = width > static_cast<int>(length) ? static_cast<std::size_t>(width) - length : 0;

@@ -190,6 +190,83 @@ TEST_P(FieldFormsOn, UIntEveryNumberOfDigits)
     EXPECT_EQ(Written(SInt(12, std::int64_t{98765432109LL})), L"+098765432109");
 }
 
+TEST_P(FieldFormsOn, IntegersAtTheEdgesOfTheirWidth)
+{
+    // A number of the width's size gets its zeros with its digits; one digit
+    // more, or a minus sign in an unsigned field, goes the longer way. Both
+    // must give the inserter's characters.
+    const struct {
+        int width;
+        std::int64_t value;
+        const wchar_t* text;
+    } unsignedCases[] = {
+        {0, 5, L"5"},
+        {1, 0, L"0"},
+        {1, 7, L"7"},
+        {1, 10, L"10"},
+        {2, 5, L"05"},
+        {2, 99, L"99"},
+        {2, 100, L"100"},
+        {3, 42, L"042"},
+        {3, 999, L"999"},
+        {3, 1000, L"1000"},
+        {4, 7, L"0007"},
+        {4, 9999, L"9999"},
+        {4, 10000, L"10000"},
+        {5, 42, L"00042"},
+        {5, 99999, L"99999"},
+        {5, 100000, L"100000"},
+        {6, 123, L"000123"},
+        {7, 9999999, L"9999999"},
+        {8, 1, L"00000001"},
+        {8, 99999999, L"99999999"},
+        {8, 100000000, L"100000000"},
+        {9, 0, L"000000000"},
+        {9, 999999999, L"999999999"},
+        {9, 1000000000, L"1000000000"},
+        {10, 42, L"0000000042"},
+        {10, 4294967295LL, L"4294967295"},
+        {12, 4294967296LL, L"004294967296"},
+        {3, -5, L"0-5"},
+        {5, -42, L"00-42"},
+        {5, -99999, L"-99999"},
+    };
+    for (const auto& one : unsignedCases) {
+        SCOPED_TRACE(one.text);
+        EXPECT_EQ(Written(UInt(one.width, one.value)), one.text);
+        if (one.value >= INT32_MIN && one.value <= INT32_MAX) {
+            EXPECT_EQ(Written(UInt(one.width, static_cast<std::int32_t>(one.value))), one.text);
+        }
+    }
+    const struct {
+        int width;
+        std::int32_t value;
+        const wchar_t* text;
+    } signedCases[] = {
+        {0, 5, L"+5"},
+        {1, 9, L"+9"},
+        {1, -10, L"-10"},
+        {3, 0, L"+000"},
+        {5, 42, L"+00042"},
+        {5, -42, L"-00042"},
+        {5, 99999, L"+99999"},
+        {5, 100000, L"+100000"},
+        {5, -100000, L"-100000"},
+        {8, 12345678, L"+12345678"},
+        {9, -999999999, L"-999999999"},
+        {9, 1000000000, L"+1000000000"},
+    };
+    for (const auto& one : signedCases) {
+        SCOPED_TRACE(one.text);
+        EXPECT_EQ(Written(SInt(one.width, one.value)), one.text);
+    }
+    // Only a signed type shows a plus sign; a byte is a number.
+    EXPECT_EQ(Written(SInt(4, 42U)), L"00042");
+    EXPECT_EQ(Written(SInt(2, std::int8_t{-5})), L"-05");
+    EXPECT_EQ(Written(UInt(3, std::uint8_t{200})), L"200");
+    EXPECT_EQ(Written(UInt(4, std::int16_t{-32768})), L"-32768");
+}
+
 TEST_P(FieldFormsOn, UIntDropsAPlusSignLeftByAnSInt)
 {
     SinkArchive s(GetParam());
