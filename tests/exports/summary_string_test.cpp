@@ -30,6 +30,20 @@ protected:
     }
     static ElementPart& Element() { return theDocument.orders.back().elementParts.back(); }
 
+    // A straight bar "B12" of 3000 by 12 at (50, 60, 25).
+    static ItBarBlock StraightBar()
+    {
+        ItBarBlock bar{};
+        bar.designation = HostText(u"B12");
+        bar.rodKind = 1;
+        bar.firstSize = 3000;
+        bar.secondSize = 12;
+        bar.positionX = 50;
+        bar.positionY = 60;
+        bar.positionZ = 25;
+        return bar;
+    }
+
     // The summary as a wide string; the block is given back.
     static std::wstring Summary()
     {
@@ -99,14 +113,7 @@ TEST_F(SummaryStringTest, AReinforcedElementAt502)
     addContour(5, contour);
     const int32_t part[] = {7, 8, 0, 0, 2000, 1500};
     addSet(3, HostText(u"Box"), 6, part);
-    ItBarBlock bar{};
-    bar.designation = HostText(u"B12");
-    bar.rodKind = 1;
-    bar.firstSize = 3000;
-    bar.secondSize = 12;
-    bar.positionX = 50;
-    bar.positionY = 60;
-    bar.positionZ = 25;
+    ItBarBlock bar = StraightBar();
     addStraightRodstock(&bar);
     const int32_t girder[] = {800, 4500, 100, 200, 30, 90, 5, 7, 1500, 12};
     addSet(5, HostText(u"KT 800"), 10, girder);
@@ -175,13 +182,7 @@ TEST_F(SummaryStringTest, ALongTextComesOutWhole)
 {
     Start(502);
     const int count = 3000;
-    ItBarBlock bar{};
-    bar.designation = HostText(u"B12");
-    bar.rodKind = 1;
-    bar.firstSize = 3000;
-    bar.secondSize = 12;
-    bar.positionY = 60;
-    bar.positionZ = 25;
+    ItBarBlock bar = StraightBar();
     std::wstring bars;
     for (int i = 0; i < count; ++i) {
         bar.positionX = i;
