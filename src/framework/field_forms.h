@@ -175,6 +175,22 @@ template <class Stream, class T>
 inline void PutField(Stream& os, const IntegerForm<T>& form, FieldBuffer* direct)
 {
     using Kind = typename IntegerForm<T>::Kind;
+    // A byte is a number here, never a character.
+    using Value = std::conditional_t<sizeof(T) == 1, int, T>;
+    if (direct != nullptr && form.kind == Kind::hexField) {
+        // The bit pattern in the width of its type; the stream is left in
+        // decimal and lower case, as behind the inserter.
+        os.fill(L'0');
+        os.unsetf(std::ios_base::showpos | std::ios_base::uppercase);
+        os.setf(std::ios_base::right, std::ios_base::adjustfield);
+        os.setf(std::ios_base::dec, std::ios_base::basefield);
+        if (Fields::OwnDigits(os.flags(), true) &&
+            Fields::StoreZeroFilledHex(
+                *direct, static_cast<std::make_unsigned_t<Value>>(static_cast<Value>(form.value)), form.width)) {
+            os.width(0);
+            return;
+        }
+    }
     if (direct != nullptr && form.kind != Kind::hexField) {
         const bool signedField = form.kind == Kind::signedField;
         os.fill(L'0');
@@ -186,9 +202,7 @@ inline void PutField(Stream& os, const IntegerForm<T>& form, FieldBuffer* direct
             os.setf(std::ios_base::right, std::ios_base::adjustfield);
         }
         if (Fields::OwnDigits(os.flags(), false)) {
-            // A byte is a number here, never a character; only a signed
-            // type shows a plus sign.
-            using Value = std::conditional_t<sizeof(T) == 1, int, T>;
+            // Only a signed type shows a plus sign.
             const Value value = static_cast<Value>(form.value);
             bool negative = false;
             unsigned long long magnitude = 0;

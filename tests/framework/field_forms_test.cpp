@@ -316,9 +316,33 @@ TEST_P(FieldFormsOn, HexUpperCaseFullPatternThenBackToDecimal)
 {
     EXPECT_EQ(Written(Hex(4, 255)), L"00FF");
     EXPECT_EQ(Written(Hex(4, -1)), L"FFFFFFFF");
+    // Every count of digits against the width, and the pattern of each type.
+    EXPECT_EQ(Written(Hex(1, 0)), L"0");
+    EXPECT_EQ(Written(Hex(4, 0)), L"0000");
+    EXPECT_EQ(Written(Hex(4, 0x1F)), L"001F");
+    EXPECT_EQ(Written(Hex(2, 0xABC)), L"ABC");
+    EXPECT_EQ(Written(Hex(4, 0x10000)), L"10000");
+    EXPECT_EQ(Written(Hex(8, 0x7FFFFFFF)), L"7FFFFFFF");
+    EXPECT_EQ(Written(Hex(0, 0xDEADBEEFU)), L"DEADBEEF");
+    EXPECT_EQ(Written(Hex(4, std::int16_t{-1})), L"FFFF");
+    EXPECT_EQ(Written(Hex(4, std::int8_t{-1})), L"FFFFFFFF");
+    EXPECT_EQ(Written(Hex(4, std::int64_t{-2})), L"FFFFFFFFFFFFFFFE");
+    EXPECT_EQ(Written(Hex(3, std::uint64_t{0x123456789ABCDEF0ULL})), L"123456789ABCDEF0");
     SinkArchive s(GetParam());
     s.archive << SInt(1, 1) << Hex(4, 10) << UInt(3, 10);
     EXPECT_EQ(s.Text(), L"+1000A010");
+    // Right behind a Hex, even one behind an SInt, the stream is decimal,
+    // lower case, right-adjusted, with no plus sign and zero as its fill.
+    SinkArchive behind(GetParam());
+    std::wostream& stream = behind.archive;
+    stream.setf(std::ios_base::uppercase);
+    behind.archive << SInt(1, 1) << Hex(4, 10);
+    EXPECT_EQ(behind.Text(), L"+1000A");
+    EXPECT_EQ(stream.flags() & std::ios_base::basefield, std::ios_base::dec);
+    EXPECT_EQ(stream.flags() & (std::ios_base::uppercase | std::ios_base::showpos), std::ios_base::fmtflags{});
+    EXPECT_EQ(stream.flags() & std::ios_base::adjustfield, std::ios_base::right);
+    EXPECT_EQ(stream.fill(), L'0');
+    EXPECT_EQ(stream.width(), 0);
 }
 
 TEST_P(FieldFormsOn, CharOneCharacterWithoutFill)
