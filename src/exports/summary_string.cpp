@@ -7,8 +7,10 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <limits>
+#include <memory>
+#include <new>
 #include <streambuf>
+#include <vector>
 
 using ItUnitechnik::Archive;
 using ItUnitechnik::ElementPart;
@@ -38,37 +40,38 @@ it_char16* AsResult(const it_char16* constant)
 }
 
 // The wide stream buffer of the summary: a line ends in a line feed alone,
-// and every character becomes one 16-bit unit of the host's text. The units
-// go straight into the block the host is given, which doubles as the text
-// grows and is cut to the text's length at the end: the text is made once,
-// and an allocator that can move a large block without copying it (as
-// realloc maps it anew) does not copy it at all.
+// and every character becomes one 16-bit unit of the host's text. The text is
+// made once, into pieces that never move, each twice the size of the one
+// before; at the end it is copied once into a block of just its length.
 class HostTextBuffer : public ItUnitechnik::FieldBuffer {
 public:
     HostTextBuffer() { setp(area_, area_ + areaSize); }
-    HostTextBuffer(const HostTextBuffer&) = delete;
-    HostTextBuffer& operator=(const HostTextBuffer&) = delete;
-    ~HostTextBuffer() override { ItUnitechnik::Platform::FreeHostBlock(block_); }
 
-    // Memory ran out: the text stops where the block could not grow.
+    // Memory ran out: the text stops where no piece could be had.
     bool OutOfMemory() const { return outOfMemory_; }
 
-    // The block with the text and its terminator, of 2 * (length + 1)
-    // bytes; the host owns it from here on. Null when memory ran out.
+    // A block with the text and its terminator, of 2 * (length + 1) bytes;
+    // the host owns it. Null when memory ran out.
     it_char16* Take()
     {
-        if (!Drain() || !Reserve(done_ + 1)) {
+        if (!Drain()) {
             return nullptr;
         }
-        block_[done_] = 0;
-        const std::size_t bytes = sizeof(it_char16) * (done_ + 1);
-        // A block that cannot be cut keeps its length: the host frees it
-        // all the same.
-        if (void* const cut = ItUnitechnik::Platform::ResizeHostBlock(block_, bytes)) {
-            block_ = static_cast<it_char16*>(cut);
+        std::size_t length = 0;
+        for (const Piece& piece : pieces_) {
+            length += piece.used;
         }
-        it_char16* const block = block_;
-        block_ = nullptr;
+        auto* const block =
+            static_cast<it_char16*>(ItUnitechnik::Platform::AllocateHostBlock(sizeof(it_char16) * (length + 1)));
+        if (block == nullptr) {
+            outOfMemory_ = true;
+            return nullptr;
+        }
+        it_char16* out = block;
+        for (const Piece& piece : pieces_) {
+            out = std::copy(piece.units.get(), piece.units.get() + piece.used, out);
+        }
+        *out = 0;
         return block;
     }
 
@@ -87,51 +90,46 @@ protected:
 
 private:
     static constexpr std::size_t areaSize = 4096;
-    static constexpr std::size_t firstCapacity = std::size_t{64} * 1024; // units
+    static constexpr std::size_t firstPieceSize = std::size_t{64} * 1024; // units
 
-    // Room in the block for `units` units in all.
-    bool Reserve(std::size_t units)
-    {
-        if (units <= capacity_) {
-            return true;
-        }
-        constexpr std::size_t most = std::numeric_limits<std::size_t>::max() / (2 * sizeof(it_char16));
-        std::size_t capacity = std::max(firstCapacity, capacity_);
-        while (capacity < units && capacity <= most) {
-            capacity *= 2;
-        }
-        void* const grown =
-            capacity >= units ? ItUnitechnik::Platform::ResizeHostBlock(block_, sizeof(it_char16) * capacity) : nullptr;
-        if (grown == nullptr) {
-            outOfMemory_ = true;
-            return false;
-        }
-        block_ = static_cast<it_char16*>(grown);
-        capacity_ = capacity;
-        return true;
-    }
+    struct Piece {
+        std::unique_ptr<it_char16[]> units;
+        std::size_t size;
+        std::size_t used;
+    };
 
     // The put area's characters as units behind the text so far; false,
-    // and nothing taken, when the block cannot hold them.
+    // with the text cut there, when memory runs out.
     bool Drain()
     {
-        const auto count = static_cast<std::size_t>(pptr() - pbase());
-        if (!Reserve(done_ + count)) {
-            return false;
-        }
-        it_char16* const out = block_ + done_;
-        for (std::size_t i = 0; i < count; ++i) {
-            out[i] = static_cast<it_char16>(area_[i]);
-        }
-        done_ += count;
+        const wchar_t* from = area_;
+        const wchar_t* const last = pptr();
         setp(area_, area_ + areaSize);
+        while (from != last) {
+            if (pieces_.empty() || pieces_.back().used == pieces_.back().size) {
+                const std::size_t size = pieces_.empty() ? firstPieceSize : 2 * pieces_.back().size;
+                try {
+                    // Left as they come: only what the text fills is touched.
+                    pieces_.push_back(Piece{std::unique_ptr<it_char16[]>(new it_char16[size]), size, 0});
+                } catch (const std::bad_alloc&) {
+                    outOfMemory_ = true;
+                    return false;
+                }
+            }
+            Piece& piece = pieces_.back();
+            const std::size_t count = std::min(static_cast<std::size_t>(last - from), piece.size - piece.used);
+            it_char16* const out = piece.units.get() + piece.used;
+            for (std::size_t i = 0; i < count; ++i) {
+                out[i] = static_cast<it_char16>(from[i]);
+            }
+            piece.used += count;
+            from += count;
+        }
         return true;
     }
 
     wchar_t area_[areaSize];
-    it_char16* block_ = nullptr;
-    std::size_t capacity_ = 0; // units the block holds
-    std::size_t done_ = 0;     // units of text in it
+    std::vector<Piece> pieces_;
     bool outOfMemory_ = false;
 };
 

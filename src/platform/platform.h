@@ -48,9 +48,6 @@ void WriteAlternateStream(const std::string& streamNameUtf8, const char* bytes, 
 
 // A block the host owns and gives back through FreeHostBlock.
 void* AllocateHostBlock(std::size_t bytes);
-// The block made `bytes` long, its content kept up to the shorter length;
-// it may move. Null when there is no room, and the block stays as it was.
-void* ResizeHostBlock(void* block, std::size_t bytes);
 void FreeHostBlock(void* block);
 
 } // namespace ItUnitechnik::Platform

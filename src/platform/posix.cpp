@@ -169,11 +169,6 @@ void* AllocateHostBlock(std::size_t bytes)
     return std::malloc(bytes);
 }
 
-void* ResizeHostBlock(void* block, std::size_t bytes)
-{
-    return std::realloc(block, bytes);
-}
-
 void FreeHostBlock(void* block)
 {
     std::free(block);

@@ -127,11 +127,6 @@ void* AllocateHostBlock(std::size_t bytes)
     return ::CoTaskMemAlloc(bytes);
 }
 
-void* ResizeHostBlock(void* block, std::size_t bytes)
-{
-    return ::CoTaskMemRealloc(block, bytes);
-}
-
 void FreeHostBlock(void* block)
 {
     ::CoTaskMemFree(block);

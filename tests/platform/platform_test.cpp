@@ -21,7 +21,6 @@ namespace {
 using Platform::AllocateHostBlock;
 using Platform::FreeHostBlock;
 using Platform::OutputFile;
-using Platform::ResizeHostBlock;
 using Platform::ToUtf8;
 using Platform::WriteAlternateStream;
 using Testing::FileExists;
@@ -230,30 +229,6 @@ TEST(HostBlock, CanBeFilledAndGivenBack)
 #endif
     FreeHostBlock(block);
     FreeHostBlock(nullptr);
-}
-
-TEST(HostBlock, KeepsItsContentWhenItGrowsAndShrinks)
-{
-    void* block = AllocateHostBlock(4);
-    ASSERT_NE(block, nullptr);
-    std::memcpy(block, "abcd", 4);
-    // Large enough that an allocator moves or maps it anew.
-    const std::size_t large = std::size_t{8} << 20;
-    void* grown = ResizeHostBlock(block, large);
-    ASSERT_NE(grown, nullptr);
-    EXPECT_EQ(std::memcmp(grown, "abcd", 4), 0);
-    static_cast<char*>(grown)[large - 1] = 'z';
-    void* shrunk = ResizeHostBlock(grown, 3);
-    ASSERT_NE(shrunk, nullptr);
-    EXPECT_EQ(std::memcmp(shrunk, "abc", 3), 0);
-#ifdef _WIN32
-    // Still a block of the allocator the host frees with.
-    IMalloc* allocator = nullptr;
-    ASSERT_TRUE(SUCCEEDED(::CoGetMalloc(1, &allocator)));
-    EXPECT_EQ(allocator->DidAlloc(shrunk), 1);
-    allocator->Release();
-#endif
-    FreeHostBlock(shrunk);
 }
 
 } // namespace
