@@ -47,7 +47,8 @@ class HostTextBuffer : public ItUnitechnik::FieldBuffer {
 public:
     HostTextBuffer() { setp(area_, area_ + areaSize); }
 
-    // Memory ran out: the text stops where no piece could be had.
+    // Memory ran out while the text was made: it stops where no piece
+    // could be had.
     bool OutOfMemory() const { return outOfMemory_; }
 
     // A block with the text and its terminator, of 2 * (length + 1) bytes;
@@ -64,7 +65,6 @@ public:
         auto* const block =
             static_cast<it_char16*>(ItUnitechnik::Platform::AllocateHostBlock(sizeof(it_char16) * (length + 1)));
         if (block == nullptr) {
-            outOfMemory_ = true;
             return nullptr;
         }
         it_char16* out = block;

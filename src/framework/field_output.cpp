@@ -162,6 +162,15 @@ bool PlainDigits(std::ios_base& stream)
     return stream.iword(PlainDigitsIndex()) == 1;
 }
 
+bool StoreZeroFilledHex(FieldBuffer& direct, const IntegerValue& value, int width)
+{
+    wchar_t digits[32];
+    std::size_t prefix = 0;
+    const wchar_t* const first = StoreSignedDigits(digits + 32, value, true, std::ios_base::uppercase, prefix);
+    return StorePadded(direct, first, static_cast<std::size_t>(digits + 32 - first), prefix, width, L'0',
+                       std::ios_base::right);
+}
+
 bool PutInteger(std::wostream& os, const IntegerValue& value, bool hexadecimal)
 {
     if (!PlainDigits(os)) {

@@ -204,29 +204,6 @@ inline bool StoreZeroFilledDecimal(FieldBuffer& direct, unsigned long long magni
     return true;
 }
 
-// The upper-case hexadecimal digits of `bits` straight into the put area,
-// zero-filled in front to `width`. False, with nothing put, when the area
-// has no room.
-inline bool StoreZeroFilledHex(FieldBuffer& direct, unsigned long long bits, int width)
-{
-    std::size_t digitCount = 1;
-    for (unsigned long long rest = bits >> 4; rest != 0; rest >>= 4) {
-        ++digitCount;
-    }
-    const std::size_t padding = width > static_cast<int>(digitCount) ? static_cast<std::size_t>(width) - digitCount : 0;
-    wchar_t* const out = direct.Room(padding + digitCount);
-    if (out == nullptr) {
-        return false;
-    }
-    wchar_t* end = StoreFill(out, L'0', padding) + digitCount;
-    for (std::size_t i = 0; i < digitCount; ++i) {
-        *--end = L"0123456789ABCDEF"[bits & 0xFU];
-        bits >>= 4;
-    }
-    direct.Advance(padding + digitCount);
-    return true;
-}
-
 // The sign and digits of the integer as the inserter makes them, the last
 // one stored right before `end` (32 places are enough); gives the first, and
 // in `prefix` the characters of the sign (0 or 1). Only a decimal field of a
@@ -258,6 +235,11 @@ inline wchar_t* StoreSignedDigits(wchar_t* end, const IntegerValue& value, bool 
     }
     return first;
 }
+
+// A hexadecimal field of the forms straight into the put area: the
+// upper-case bit pattern of the value's magnitude, zero-filled in front to
+// `width`. False, with nothing put, when the area has no room.
+bool StoreZeroFilledHex(FieldBuffer& direct, const IntegerValue& value, int width);
 
 // Puts the characters of one field with the stream's width, fill and
 // adjustment, as the inserters pad them: behind the text for `left`; between
