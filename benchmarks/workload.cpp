@@ -143,6 +143,42 @@ void StartOneMoreOrder(int32_t i)
     startOrder(1, 101 + i, placement, 600, Host(u"Floor slab"), 1.25, false);
 }
 
+namespace {
+
+void OneMat()
+{
+    AddOneSteelmat(0);
+}
+
+} // namespace
+
+const std::vector<Adder>& Adders()
+{
+    static const std::vector<Adder> adders = {
+        {"startOrder", StartOneMoreOrder, nullptr},
+        {"addLayer", AddOneLayer, nullptr},
+        {"addContour", AddOneContour, nullptr},
+        {"addCutout", AddOneCutout, nullptr},
+        {"addSet/part", AddOneMountingPart, nullptr},
+        {"addSet/girder", AddOneGirder, nullptr},
+        {"addSteelmat", AddOneSteelmat, nullptr},
+        {"addCFSRodstock", AddOneCfsRodstock, OneMat},
+        {"addStraightRodstock", AddOneStraightRodstock, nullptr},
+        {"addFreeFormRodstock", AddOneFreeFormRodstock, nullptr},
+        {"addExtIron", AddOneExternalIron, nullptr},
+    };
+    return adders;
+}
+
+void PrepareFor(const Adder& adder, const std::vector<int32_t>& outline)
+{
+    StartDocument();
+    addContour(static_cast<int32_t>(outline.size() / 2), outline.data());
+    if (adder.prepare != nullptr) {
+        adder.prepare();
+    }
+}
+
 void BuildLargeElement()
 {
     StartDocument();
@@ -224,16 +260,32 @@ std::string ReadBytes(const std::string& path)
     return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 
-std::size_t PeakResidentBytes()
+namespace {
+
+// A size line of /proc/self/status ("VmHWM:  27904 kB"), in bytes.
+std::size_t StatusBytes(const char* field)
 {
     std::ifstream status("/proc/self/status");
     std::string line;
+    const std::string name = std::string(field) + ":";
     while (std::getline(status, line)) {
-        if (line.rfind("VmHWM:", 0) == 0) {
-            return static_cast<std::size_t>(std::strtoull(line.c_str() + 6, nullptr, 10)) * 1024;
+        if (line.rfind(name, 0) == 0) {
+            return static_cast<std::size_t>(std::strtoull(line.c_str() + name.size(), nullptr, 10)) * 1024;
         }
     }
     return 0;
+}
+
+} // namespace
+
+std::size_t PeakResidentBytes()
+{
+    return StatusBytes("VmHWM");
+}
+
+std::size_t ResidentBytes()
+{
+    return StatusBytes("VmRSS");
 }
 
 } // namespace ItUnitechnik::Bench

@@ -31,6 +31,19 @@ void AddOneExternalIron(int32_t i);
 void AddOneLayer(int32_t i);
 void StartOneMoreOrder(int32_t i);
 
+// An adder as the suite runs it: its name in the output, one call with the
+// i-th values, and what the element needs before the first call (or null).
+struct Adder {
+    const char* name;
+    void (*add)(int32_t);
+    void (*prepare)();
+};
+// Every adder, `startOrder` (without clearing) first.
+const std::vector<Adder>& Adders();
+// The element every adder runs on: a fresh document whose element has an
+// outline of `outline` (OutlinePoints), then what the adder needs first.
+void PrepareFor(const Adder& adder, const std::vector<int32_t>& outline);
+
 // The large element: every kind of record the exports make, about 5 MB
 // when written.
 void BuildLargeElement();
@@ -54,5 +67,7 @@ std::u16string HostPath(const std::string& path);
 std::string ReadBytes(const std::string& path);
 // The peak resident set of this process so far, in bytes; 0 where unknown.
 std::size_t PeakResidentBytes();
+// The resident set of this process now, in bytes; 0 where unknown.
+std::size_t ResidentBytes();
 
 } // namespace ItUnitechnik::Bench
