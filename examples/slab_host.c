@@ -52,7 +52,7 @@ int main(int argc, char** argv)
     int i;
 
     /* A new document with one order of format version 600. */
-    startOrder(1, 101, placement, 600, text16("Floor slab FS-101", elementText), 1.25, true);
+    startOrder(1, 101, placement, 600, text16("Floor slab FS-101", elementText), 13.32, true);
 
     for (i = 0; i < IT_PROJECT_TEXT_COUNT; ++i) {
         project[i] = text16(projectTexts[i], projectBuffers[i]);
@@ -61,22 +61,25 @@ int main(int argc, char** argv)
     setSlabInfoFields(text16("C30/37", info[0]), text16("XC1", info[1]), text16("exposed", info[2]),
                       text16("batch 7", info[3]));
 
-    /* Two concrete layers: 60 mm and 140 mm, and the gap of a double wall. */
-    addLayer(1, 0.06, 2.4, 0.06, text16("C30/37", layerName));
-    addLayer(2, 0.14, 2.4, 0.14, text16("C25/30", layerName));
+    /* One concrete layer (kind 0) of 60 mm: 2.4 kg/dm3 over a net volume of
+     * 799.2 dm3 (13.32 m2 by 0.06 m), 1918.08 kg. No gap of a double wall. */
+    addLayer(0, 0.06, 2.4, 799.2, text16("C30/37", layerName));
     setDoubleWallGap(0);
 
     {
         /* The outline: a closed rectangle of 6.0 m by 2.4 m (the first point
          * repeated closes it). */
         static const int32_t outline[] = {0, 0, 6000, 0, 6000, 2400, 0, 2400, 0, 0};
-        /* An opening for a stair, 1.2 m by 0.9 m. */
+        /* An opening for a stair, 1.2 m by 0.9 m: 1.08 m2. */
         static const int32_t opening[] = {1000, 600, 2200, 600, 2200, 1500, 1000, 1500, 1000, 600};
-        /* A mounted socket box: two values, then one straight piece x0 y0 x1 y1. */
-        static const int32_t socket[] = {1, 0, 4500, 1200, 4600, 1300};
-        /* Two lattice girders: groups of ten values. */
-        static const int32_t girders[] = {8, 80, 300, 400,  60, 0, 1, 10, 1500, 5400,
-                                          8, 80, 300, 2000, 60, 0, 1, 10, 1500, 5400};
+        /* A mounted socket box, 60 mm high, on the pallet: its height and its
+         * height above the pallet, then one straight piece x0 y0 x1 y1. */
+        static const int32_t socket[] = {60, 0, 4700, 1000, 4800, 1100};
+        /* A group of 4 lattice girders, 3400 mm long, from (2400, 300) along x
+         * and 600 mm apart: count, length, x, y, spacing, rotation, height,
+         * upper chord diameter, weight of one girder in g, height above the
+         * pallet. */
+        static const int32_t girders[] = {4, 3400, 2400, 300, 600, 0, 80, 10, 4930, 20};
         it_char16 name[TEXT_MAX];
         ItCutoutBlock stair;
         stair.cutoutName = text16("Stair opening", name);
@@ -85,48 +88,60 @@ int main(int argc, char** argv)
         addContour(5, outline);
         addCutout(&stair, opening);
         addSet(3, text16("Socket box", name), 6, socket);
-        addSet(5, text16("KT 800", name), 20, girders);
+        addSet(5, text16("KT 800", name), 10, girders);
     }
 
     {
-        /* A mat at (100, 100), 5.8 m by 2.2 m, with two bars of its own. */
+        /* A Q188A mesh at (100, 100), 5.8 m by 2.2 m, 35 mm above the pallet. */
         static const int32_t matPosition[3] = {100, 100, 35};
-        static const int32_t barAlong[3] = {150, 150, 0};
-        static const int32_t barAcross[3] = {150, 150, 0};
-        /* A hook: seven segments of length and angle. */
-        static const ItFreeFormSegment hook[7] = {{250, 90, {0, 0}}, {1200, 0, {0, 0}}, {250, -90, {0, 0}},
-                                                  {400, 45, {0, 0}}, {300, 0, {0, 0}},  {150, -45, {0, 0}},
-                                                  {100, 0, {0, 0}}};
+        /* A cranked bar: five legs of length and the turn to the next one. */
+        static const ItFreeFormSegment cranked[5] = {
+            {300, 45, {0, 0}}, {400, -45, {0, 0}}, {1500, -45, {0, 0}}, {400, 45, {0, 0}}, {300, 0, {0, 0}}};
         it_char16 name[TEXT_MAX];
         it_char16 extra[TEXT_MAX];
         ItBarBlock bar = {0};
+        int32_t k;
 
         addSteelmat(text16("Q188A", name), 5800, 2200, 1, 0, 1, matPosition);
-        /* One bar along the mat and one across it. */
-        addCFSRodstock(1, text16("B500B", name), 5800, 8, 0, barAlong, 35, 0, text16("pos 1", extra), 1, 0, 0, 0, 0);
-        addCFSRodstock(1, text16("B500B", name), 2200, 8, 0, barAcross, 43, 90, text16("pos 2", extra), 1, 0, 0, 0, 0);
+        /* Its wires, each a set of one bar of 6 mm, placed from the mat's
+         * corner: 15 along it every 150 mm, then 39 across it on top. */
+        for (k = 0; k < 15; ++k) {
+            const int32_t at[3] = {0, 25 + 150 * k, 35};
+            addCFSRodstock(1, text16("500", name), 1, 6, 5800, at, 0, 0, text16("", extra), 1, 0, 0, 0, 0);
+        }
+        for (k = 0; k < 39; ++k) {
+            const int32_t at[3] = {25 + 150 * k, 0, 41};
+            addCFSRodstock(1, text16("500", name), 1, 6, 2200, at, 0, 90, text16("", extra), 1, 0, 0, 0, 0);
+        }
 
-        /* A loose straight bar along the opening. */
-        bar.designation = text16("B500B", name);
-        bar.positionX = 900;
-        bar.positionY = 500;
-        bar.positionZ = 40;
-        bar.firstSize = 1400;
-        bar.secondSize = 12;
+        /* A loose set of 5 bars of 10 mm, 3000 mm long, 400 mm apart, from
+         * (2600, 400) along x, 50 mm above the pallet. */
+        bar.designation = text16("500", name);
+        bar.positionX = 2600;
+        bar.positionY = 400;
+        bar.positionZ = 400;
+        bar.auxSixth = 50;
+        bar.firstSize = 5;
+        bar.secondSize = 10;
+        bar.thirdSize = 3000;
         bar.rodKind = 1;
         addStraightRodstock(&bar);
 
-        /* A loose bent bar: a free form of seven segments. */
-        bar.extraDesignation = text16("hook", extra);
-        bar.positionX = 2400;
-        bar.positionY = 1000;
-        bar.firstSize = 2650;
-        bar.secondSize = 10;
-        bar.segmentCount = 7;
+        /* A loose set of 2 cranked bars of 12 mm, 2900 mm of bar each, below
+         * and above the opening: a free form of five legs. */
+        bar.extraDesignation = text16("A-102", extra);
+        bar.positionX = 600;
+        bar.positionY = 450;
+        bar.positionZ = 1200;
+        bar.firstSize = 2;
+        bar.secondSize = 12;
+        bar.thirdSize = 2900;
+        bar.segmentCount = 5;
         bar.bendingCode = 2;
-        addFreeFormRodstock(&bar, hook);
+        addFreeFormRodstock(&bar, cranked);
 
-        addExtIron(2, 4, 1.5, text16("Lifting anchor", name));
+        /* 4 lifting anchors of 1.6 kg together. */
+        addExtIron(2, 4, 1.6, text16("Lifting anchor", name));
     }
 
     if (endDocument(text16(file, path)) != 1) {

@@ -92,7 +92,7 @@ TEST(Dump, AFileCutOffExitsOneWithThePlace)
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.err, "cut.uni:21:6: expected a blank in SLABDATE, but the file ends there\n");
     EXPECT_EQ(run.out, "HEADER__ version 502, order \"\", 1 element\n"
-                       "  SLABDATE version 502, element 1 \"\", 0 x 0, thickness 0, 0 concrete layers\n"
+                       "  SLABDATE version 502, element 1 \"\", 0 x 0, thickness 0, area 0 m², 0 concrete layers\n"
                        "    CONTOUR_ version 502, 0 contours\n"
                        "    CUTOUT__ version 502, 0 openings\n"
                        "    MOUNPART version 502, 0 parts\n"

@@ -197,7 +197,7 @@ static class BindingTests
     {
         string path = Path.Combine(work, "example-slab.uni");
         using (var document = new Document()) {
-            document.StartOrder(1, 101, Placement(0, 0, 0, 6000, 0, 0, 0, 2400, 0), 600, "Floor slab FS-101", 1.25);
+            document.StartOrder(1, 101, Placement(0, 0, 0, 6000, 0, 0, 0, 2400, 0), 600, "Floor slab FS-101", 13.32);
             document.SetProjectData(new ProjectData {
                 OrderNumber = "ORD-2026-0142", OrderText5 = "A1   ", OrderText4 = "LV01", OrderText8 = "K-77",
                 ProjectText1 = "Riverside Tower", ProjectText2 = "Block B", ProjectText3 = "Level 3",
@@ -209,45 +209,47 @@ static class BindingTests
                 Date = "21.11.2026", OrderText2 = "01", OrderText40 = "Floor slab, fair-faced underside",
             });
             document.SetSlabInfo("C30/37", "XC1", "exposed", "batch 7");
-            document.AddLayer(1, 0.06, 2.4, 0.06, "C30/37");
-            document.AddLayer(2, 0.14, 2.4, 0.14, "C25/30");
+            document.AddLayer(0, 0.06, 2.4, 799.2, "C30/37");
             document.SetDoubleWallGap(0);
 
             document.AddContour(Points(0, 0, 6000, 0, 6000, 2400, 0, 2400, 0, 0));
             document.AddCutout("Stair opening", 1.08, Points(1000, 600, 2200, 600, 2200, 1500, 1000, 1500, 1000, 600));
-            Check(document.AddMountingPart("Socket box", 1, 0,
-                new[] { new Piece(new Point(4500, 1200), new Point(4600, 1300)) }), "the socket box is added");
-            var girder = new BracedGirder {
-                TypeNumber = 8, FirstSize = 80, Position = new Point(300, 400), PositionZ = 60, Rotation = 0,
-                AuxNumber = 1, ShortNumber = 10, ValueThousandths = 1500, LastNumber = 5400 };
-            var second = new BracedGirder {
-                TypeNumber = 8, FirstSize = 80, Position = new Point(300, 2000), PositionZ = 60, Rotation = 0,
-                AuxNumber = 1, ShortNumber = 10, ValueThousandths = 1500, LastNumber = 5400 };
-            Check(document.AddBracedGirders("KT 800", new[] { girder, second }), "the girders are added");
+            Check(document.AddMountingPart("Socket box", 60, 0,
+                new[] { new Piece(new Point(4700, 1000), new Point(4800, 1100)) }), "the socket box is added");
+            var girders = new BracedGirder {
+                TypeNumber = 4, FirstSize = 3400, Position = new Point(2400, 300), PositionZ = 600, Rotation = 0,
+                AuxNumber = 80, ShortNumber = 10, ValueThousandths = 4930, LastNumber = 20 };
+            Check(document.AddBracedGirders("KT 800", new[] { girders }), "the girders are added");
 
             Check(document.AddSteelmat("Q188A", 5800, 2200, true, false, 1, 100, 100, 35) == 1, "the mat is number 1");
-            Check(document.AddMatBar(new MatBar {
-                RodKind = 1, Designation = "B500B", FirstSize = 5800, SecondSize = 8, Position = new Point(150, 150),
-                PositionZ = 35, ExtraDesignation = "pos 1", Mounted = true }) == 1, "the bar along is number 1");
-            Check(document.AddMatBar(new MatBar {
-                RodKind = 1, Designation = "B500B", FirstSize = 2200, SecondSize = 8, Position = new Point(150, 150),
-                PositionZ = 43, Rotation = 90, ExtraDesignation = "pos 2", Mounted = true }) == 2,
-                "the bar across is number 2");
+            for (int k = 0; k < 15; ++k) {
+                Check(document.AddMatBar(new MatBar {
+                    RodKind = 1, Designation = "500", FirstSize = 1, SecondSize = 6, ThirdSize = 5800,
+                    Position = new Point(0, 25 + 150 * k), AuxSixth = 35, Mounted = true }) == k + 1,
+                    "a wire along the mat");
+            }
+            for (int k = 0; k < 39; ++k) {
+                Check(document.AddMatBar(new MatBar {
+                    RodKind = 1, Designation = "500", FirstSize = 1, SecondSize = 6, ThirdSize = 2200,
+                    Position = new Point(25 + 150 * k, 0), AuxSixth = 41, Rotation = 90, Mounted = true }) == 16 + k,
+                    "a wire across the mat");
+            }
 
             var bar = new Bar {
-                Designation = "B500B", Position = new Point(900, 500), PositionZ = 40, FirstSize = 1400,
-                SecondSize = 12, RodKind = 1 };
+                Designation = "500", Position = new Point(2600, 400), PositionZ = 400, AuxSixth = 50, FirstSize = 5,
+                SecondSize = 10, ThirdSize = 3000, RodKind = 1 };
             document.AddStraightBar(bar);
-            bar.ExtraDesignation = "hook";
-            bar.Position = new Point(2400, 1000);
-            bar.FirstSize = 2650;
-            bar.SecondSize = 10;
+            bar.ExtraDesignation = "A-102";
+            bar.Position = new Point(600, 450);
+            bar.PositionZ = 1200;
+            bar.FirstSize = 2;
+            bar.SecondSize = 12;
+            bar.ThirdSize = 2900;
             bar.BendingCode = 2;
             document.AddFreeFormBar(bar, new[] {
-                new FreeFormSegment(250, 90), new FreeFormSegment(1200, 0), new FreeFormSegment(250, -90),
-                new FreeFormSegment(400, 45), new FreeFormSegment(300, 0), new FreeFormSegment(150, -45),
-                new FreeFormSegment(100, 0) });
-            Check(document.AddExternalIron(2, 4, 1.5, "Lifting anchor") == 1, "the iron is number 1");
+                new FreeFormSegment(300, 45), new FreeFormSegment(400, -45), new FreeFormSegment(1500, -45),
+                new FreeFormSegment(400, 45), new FreeFormSegment(300, 0) });
+            Check(document.AddExternalIron(2, 4, 1.6, "Lifting anchor") == 1, "the iron is number 1");
 
             Check(document.Write(path), "the example slab is written");
             Check(document.ReinforcementSummary().Contains("STEELMAT"), "the summary holds the mat");

@@ -12,7 +12,7 @@ def example_slab(path):
     """The calls of examples/slab_host.c."""
     with unitechnik.Document(path) as document:
         document.start_order(order_value=1, element_number=101, placement=FLAT, version=600,
-                             element_text="Floor slab FS-101", element_measure=1.25)
+                             element_text="Floor slab FS-101", element_measure=13.32)
         document.set_project_data(ProjectData(
             order_number="ORD-2026-0142", order_text5="A1   ", order_text4="LV01", order_text8="K-77",
             project_text1="Riverside Tower", project_text2="Block B", project_text3="Level 3",
@@ -23,41 +23,41 @@ def example_slab(path):
             second_address4="Hamburg",
             date="21.11.2026", order_text2="01", order_text40="Floor slab, fair-faced underside"))
         document.set_slab_info_fields("C30/37", "XC1", "exposed", "batch 7")
-        document.add_layer(layer_kind=1, thickness_metres=0.06, first_factor=2.4, second_factor=0.06,
+        document.add_layer(layer_kind=0, thickness_metres=0.06, first_factor=2.4, second_factor=799.2,
                            layer_name="C30/37")
-        document.add_layer(layer_kind=2, thickness_metres=0.14, first_factor=2.4, second_factor=0.14,
-                           layer_name="C25/30")
         document.set_double_wall_gap(0)
 
         document.add_contour(points=RECTANGLE)
         document.add_cutout(Cutout(name="Stair opening", value=1.08,
                                    points=[(1000, 600), (2200, 600), (2200, 1500), (1000, 1500), (1000, 600)]))
-        assert document.add_mounting_part("Socket box", 1, 0, pieces=[((4500, 1200), (4600, 1300))])
-        girder = dict(type_number=8, first_size=80, position_z=60, rotation=0, aux_number=1,
-                      short_number=10, value_thousandths=1500, last_number=5400)
-        assert document.add_braced_girders("KT 800", [BracedGirder(position=(300, 400), **girder),
-                                                      BracedGirder(position=(300, 2000), **girder)])
+        assert document.add_mounting_part("Socket box", 60, 0, pieces=[((4700, 1000), (4800, 1100))])
+        assert document.add_braced_girders("KT 800", [BracedGirder(
+            type_number=4, first_size=3400, position=(2400, 300), position_z=600, rotation=0, aux_number=80,
+            short_number=10, value_thousandths=4930, last_number=20)])
 
         assert document.add_steelmat(name="Q188A", first_dimension=5800, second_dimension=2200,
                                      first_flag=True, second_flag=False, mat_kind=1, position=(100, 100, 35)) == 1
-        assert document.add_cfs_rodstock(rod_kind=1, designation="B500B", first_size=5800, second_size=8,
-                                          position=(150, 150), position_z=35, extra_designation="pos 1",
-                                          mounted=True) == 1
-        assert document.add_cfs_rodstock(rod_kind=1, designation="B500B", first_size=2200, second_size=8,
-                                          position=(150, 150), position_z=43, rotation=90,
-                                          extra_designation="pos 2", mounted=True) == 2
+        for k in range(15):
+            assert document.add_cfs_rodstock(rod_kind=1, designation="500", first_size=1, second_size=6,
+                                              third_size=5800, position=(0, 25 + 150 * k), aux_sixth=35,
+                                              mounted=True) == k + 1
+        for k in range(39):
+            assert document.add_cfs_rodstock(rod_kind=1, designation="500", first_size=1, second_size=6,
+                                              third_size=2200, position=(25 + 150 * k, 0), aux_sixth=41,
+                                              rotation=90, mounted=True) == 16 + k
 
-        bar = Bar(designation="B500B", position=(900, 500), position_z=40, first_size=1400, second_size=12,
-                  rod_kind=1)
+        bar = Bar(designation="500", position=(2600, 400), position_z=400, aux_sixth=50, first_size=5,
+                  second_size=10, third_size=3000, rod_kind=1)
         document.add_straight_rodstock(bar)
-        bar.extra_designation = "hook"
-        bar.position = (2400, 1000)
-        bar.first_size = 2650
-        bar.second_size = 10
+        bar.extra_designation = "A-102"
+        bar.position = (600, 450)
+        bar.position_z = 1200
+        bar.first_size = 2
+        bar.second_size = 12
+        bar.third_size = 2900
         bar.bending_code = 2
-        document.add_free_form_rodstock(bar, segments=[(250, 90), (1200, 0), (250, -90), (400, 45),
-                                                       (300, 0), (150, -45), (100, 0)])
-        assert document.add_ext_iron(iron_code=2, iron_count=4, iron_value=1.5, iron_text="Lifting anchor") == 1
+        document.add_free_form_rodstock(bar, segments=[(300, 45), (400, -45), (1500, -45), (400, 45), (300, 0)])
+        assert document.add_ext_iron(iron_code=2, iron_count=4, iron_value=1.6, iron_text="Lifting anchor") == 1
         return document.summary()
 
 

@@ -1,6 +1,6 @@
-// The parts of unitechnik render and bom that need no browser: the table of
-// the plant's conventions, the geometry of bars and outlines, the fields of a
-// record and the grouping of the bill of materials. Every expected number is
+// The parts of unitechnik render and bom that need no browser: the geometry
+// of outlines, the fields of a record and the grouping of the bill of
+// materials by what the plant reads. Every expected number is
 // worked out by hand from the records named in each test.
 
 #include "bom/bill_of_materials.h"
@@ -10,8 +10,6 @@
 #include "support/test_support.h"
 #include "svg/field_list.h"
 #include "svg/geometry_paths.h"
-#include "svg/plant_conventions.h"
-#include "tree/record_fields.h"
 
 #include <gtest/gtest.h>
 
@@ -22,173 +20,6 @@ namespace ItUnitechnik::Drawing {
 namespace {
 
 using Testing::TemporaryDirectory;
-
-// The name under which the table of members (tree/record_fields.h) lists the
-// member at `address`.
-class NameFinder {
-public:
-    explicit NameFinder(const void* address) : address_(address) {}
-    std::string found;
-
-    template <class T>
-    void Field(const char* name, T& value)
-    {
-        if (static_cast<const void*>(&value) == address_) {
-            found = name;
-        }
-    }
-    template <class R>
-    void Record(const char*, R&)
-    {
-    }
-    template <class R, class Make>
-    void Records(const char*, std::vector<R>&, Make)
-    {
-    }
-    template <class A>
-    void FixedRecords(const char*, A&)
-    {
-    }
-    void Points(const char*, std::vector<Point2d>&) {}
-    void Numbers(const char*, std::vector<int>&) {}
-    void Curve(const char*, GeoData&) {}
-
-private:
-    const void* address_;
-};
-
-template <class R>
-std::string TreeName(R& record, const Convention<R>& convention)
-{
-    NameFinder finder(&(record.*convention.field));
-    Tree::Fields(finder, record);
-    return finder.found;
-}
-
-TEST(PlantConventions, EachMemberIsNamedAsTheRecordTreeNamesIt)
-{
-    Rodstock bar(600);
-    for (const auto* c : {&kPlant.barLength, &kPlant.barDiameter, &kPlant.barRotation}) {
-        EXPECT_EQ(TreeName(bar, *c), c->member);
-    }
-    BendingFormSegment segment;
-    EXPECT_EQ(TreeName(segment, kPlant.segmentLength), kPlant.segmentLength.member);
-    EXPECT_EQ(TreeName(segment, kPlant.segmentAngle), kPlant.segmentAngle.member);
-    BracedGirder girder;
-    for (const auto* c : {&kPlant.girderLength, &kPlant.girderHeight, &kPlant.girderType, &kPlant.girderRotation}) {
-        EXPECT_EQ(TreeName(girder, *c), c->member);
-    }
-    Steelmat mat;
-    for (const auto* c : {&kPlant.matLength, &kPlant.matWidth, &kPlant.matCornerX, &kPlant.matCornerY}) {
-        EXPECT_EQ(TreeName(mat, *c), c->member);
-    }
-    Arc arc(600);
-    EXPECT_EQ(TreeName(arc, kPlant.arcStart), kPlant.arcStart.member);
-    EXPECT_EQ(TreeName(arc, kPlant.arcEnd), kPlant.arcEnd.member);
-    ExternalIron iron;
-    EXPECT_EQ(TreeName(iron, kPlant.ironCount), kPlant.ironCount.member);
-    EXPECT_EQ(TreeName(iron, kPlant.ironCode), kPlant.ironCode.member);
-}
-
-TEST(PlantConventions, TheBarsLengthAndDiameterAreItsFirstAndSecondSize)
-{
-    Rodstock bar(600);
-    bar.firstSize = 1400;
-    bar.secondSize = 12;
-    bar.thirdSize = 99;
-    EXPECT_EQ(kPlant.barLength.Of(bar), 1400);
-    EXPECT_EQ(kPlant.barDiameter.Of(bar), 12);
-    BracedGirder girder;
-    girder.firstSize = 80;
-    girder.lastNumber = 5400;
-    EXPECT_EQ(kPlant.girderLength.Of(girder), 5400);
-    EXPECT_EQ(kPlant.girderHeight.Of(girder), 80);
-}
-
-TEST(PlantConventions, TheReadmeShowsEveryRow)
-{
-    const std::string readme = Testing::ReadFileBytes(std::string(ITUNITECHNIK_SOURCE_DIR) + "/README.md");
-    ASSERT_FALSE(readme.empty());
-    const std::vector<ConventionRow> rows = ConventionRows();
-    EXPECT_EQ(rows.size(), 17u);
-    for (const ConventionRow& row : rows) {
-        const std::string line = "| `" + std::string(row.record) + "` | `" + row.member + "` | " + row.meaning + " |";
-        EXPECT_NE(readme.find(line), std::string::npos) << line;
-    }
-}
-
-void ExpectPoint(PointD point, double x, double y)
-{
-    EXPECT_NEAR(point.x, x, 0.005);
-    EXPECT_NEAR(point.y, y, 0.005);
-}
-
-Rodstock Straight(std::int32_t x, std::int32_t y, std::int32_t rotation, std::int32_t length)
-{
-    Rodstock bar(600);
-    bar.position = Point2d(x, y);
-    bar.rotation = rotation;
-    bar.firstSize = length;
-    bar.secondSize = 8;
-    return bar;
-}
-
-TEST(BarPoints, AStraightBarRunsFromItsPositionAlongItsRotationForItsLength)
-{
-    // The two bars of the example's mat: along x, and a quarter turn across.
-    std::vector<PointD> points = BarPoints(Straight(150, 150, 0, 5800));
-    ASSERT_EQ(points.size(), 2u);
-    ExpectPoint(points[0], 150, 150);
-    ExpectPoint(points[1], 5950, 150);
-    points = BarPoints(Straight(150, 150, 90, 2200));
-    ExpectPoint(points[1], 150, 2350);
-    // A quarter turn lands exactly on the grid, not a hair beside it.
-    EXPECT_EQ(points[1].x, 150.0);
-    // 30 degrees: cos 30 = 0.8660254, sin 30 = 0.5.
-    ExpectPoint(BarPoints(Straight(0, 0, 30, 1000))[1], 866.03, 500);
-    ExpectPoint(BarPoints(Straight(100, 100, -90, 50))[1], 100, 50);
-    ExpectPoint(BarPoints(Straight(100, 100, 180, 50))[1], 50, 100);
-    ExpectPoint(BarPoints(Straight(100, 100, 270, 50))[1], 100, 50);
-}
-
-TEST(BarPoints, ABentBarFollowsItsSegmentsFromItsRotation)
-{
-    // The example's hook at (2400, 1000): 250 at 90, 1200 at 0, 250 at -90,
-    // 400 at 45, 300 at 0, 150 at -45, 100 at 0. 400 cos 45 = 282.84,
-    // 150 cos 45 = 106.07.
-    Rodstock bar(600);
-    bar.position = Point2d(2400, 1000);
-    bar.firstSize = 2650;
-    bar.bendingKind = L'2';
-    bar.freeForm.buildFromSegments({BendingFormSegment(250, 90), BendingFormSegment(1200, 0),
-                                    BendingFormSegment(250, -90), BendingFormSegment(400, 45),
-                                    BendingFormSegment(300, 0), BendingFormSegment(150, -45),
-                                    BendingFormSegment(100, 0)});
-    const std::vector<PointD> points = BarPoints(bar);
-    ASSERT_EQ(points.size(), 8u);
-    ExpectPoint(points[0], 2400, 1000);
-    ExpectPoint(points[1], 2400, 1250);
-    ExpectPoint(points[2], 3600, 1250);
-    ExpectPoint(points[3], 3600, 1000);
-    ExpectPoint(points[4], 3882.84, 1282.84);
-    ExpectPoint(points[5], 4182.84, 1282.84);
-    ExpectPoint(points[6], 4288.91, 1176.78);
-    ExpectPoint(points[7], 4388.91, 1176.78);
-
-    // The whole form turns with the bar: a quarter turn sends the first
-    // segment to -x.
-    bar.rotation = 90;
-    ExpectPoint(BarPoints(bar)[1], 2150, 1000);
-}
-
-TEST(BarPoints, ABarOfTwoCodedFormsIsDrawnStraightForItsLength)
-{
-    Rodstock bar = Straight(0, 0, 0, 700);
-    bar.bendingKind = L'1';
-    const std::vector<PointD> points = BarPoints(bar);
-    ASSERT_EQ(points.size(), 2u);
-    ExpectPoint(points[1], 700, 0);
-}
 
 GeoData Line(std::int32_t x0, std::int32_t y0, std::int32_t x1, std::int32_t y1)
 {
@@ -306,16 +137,19 @@ TEST(FieldList, NamesEveryMemberByItsPathWithoutFill)
     const std::vector<Order> orders = Testing::ReadBack(Testing::WriteExampleSlab(directory.Path()));
     const ElementPart& element = orders.at(0).elementParts.at(0);
 
-    const FieldList hook = FieldsOf(element.rodstockData.bars.at(1));
-    EXPECT_EQ(ValueOf(hook, "firstSize"), "2650");
-    EXPECT_EQ(ValueOf(hook, "designation"), "B500B");
-    EXPECT_EQ(ValueOf(hook, "extraDesignation"), "hook");
-    EXPECT_EQ(ValueOf(hook, "position.x"), "2400");
-    EXPECT_EQ(ValueOf(hook, "bendingKind"), "2");
-    EXPECT_EQ(ValueOf(hook, "mountFlag"), "true");
-    EXPECT_EQ(ValueOf(hook, "freeForm.parts[0].segments[2].angle"), "-90");
-    EXPECT_EQ(ValueOf(hook, "freeForm.parts[1].segments[0].length"), "100");
-    EXPECT_EQ(ValueOf(hook, "spacers.positions"), "none");
+    // The cranked bars: a set of 2, five legs in one line of the form.
+    const FieldList cranked = FieldsOf(element.rodstockData.bars.at(1));
+    EXPECT_EQ(ValueOf(cranked, "firstSize"), "2");
+    EXPECT_EQ(ValueOf(cranked, "thirdSize"), "2900");
+    EXPECT_EQ(ValueOf(cranked, "designation"), "500");
+    EXPECT_EQ(ValueOf(cranked, "extraDesignation"), "A-102");
+    EXPECT_EQ(ValueOf(cranked, "position.x"), "600");
+    EXPECT_EQ(ValueOf(cranked, "bendingKind"), "2");
+    EXPECT_EQ(ValueOf(cranked, "mountFlag"), "true");
+    EXPECT_EQ(ValueOf(cranked, "freeForm.parts[0].segments[2].angle"), "-45");
+    EXPECT_EQ(ValueOf(cranked, "freeForm.parts[0].segments[4].length"), "300");
+    EXPECT_EQ(ValueOf(cranked, "freeForm.parts[1].segments[0].length"), "(missing)");
+    EXPECT_EQ(ValueOf(cranked, "spacers.positions"), "none");
 
     const FieldList contour = FieldsOf(element.contourData.contours.at(0));
     EXPECT_EQ(ValueOf(contour, "geoData[1].curve"), "LineSegment");
@@ -325,52 +159,115 @@ TEST(FieldList, NamesEveryMemberByItsPathWithoutFill)
     // their own.
     const FieldList mat = FieldsOf(element.reinforcement.mats.at(0));
     EXPECT_EQ(ValueOf(mat, "name"), "Q188A");
-    EXPECT_EQ(ValueOf(mat, "rodstocks.bars"), "2 bars");
+    EXPECT_EQ(ValueOf(mat, "rodstocks.bars"), "54 bars");
     EXPECT_EQ(ValueOf(mat, "girders.girders"), "0 girders");
 
     const FieldList iron = FieldsOf(element.externalIronData.irons.at(0));
     EXPECT_EQ(iron.size(), 5u);
-    EXPECT_EQ(ValueOf(iron, "ironValue"), "1.5");
+    EXPECT_EQ(ValueOf(iron, "ironValue"), "1.6");
     EXPECT_EQ(ValueOf(iron, "ironText"), "Lifting anchor");
 }
 
-TEST(BillOfMaterials, GroupsBarsByDesignationAndDiameterOverLooseBarsMatsAndLayers)
+Rodstock BarSet(const wchar_t* grade, std::int32_t count, std::int32_t diameter, std::int32_t length,
+                std::int32_t pitch = 0)
+{
+    Rodstock bar(600);
+    bar.designation = grade;
+    bar.firstSize = count;
+    bar.secondSize = diameter;
+    bar.thirdSize = length;
+    bar.positionZ = pitch;
+    return bar;
+}
+
+// A Q188A mesh of 52 wires, each a set of count 1: 27 of 5800 mm and 25 of
+// 2200 mm, all of diameter 6.
+TEST(BillOfMaterials, AMeshOf52WiresAddsUpEachWire)
 {
     ElementPart element;
     element.version = 600;
-    const auto bar = [](const wchar_t* designation, std::int32_t diameter, std::int32_t length) {
-        Rodstock b(600);
-        b.designation = designation;
-        b.secondSize = diameter;
-        b.firstSize = length;
-        return b;
-    };
-    element.rodstockData.bars = {bar(L"B500A     ", 10, 1000), bar(L"B500A", 10, 1500), bar(L"B500B", 10, 700)};
+    Steelmat mat;
+    mat.name = L"Q188A";
+    mat.firstDimension = 5800;
+    mat.secondDimension = 2200;
+    for (int i = 0; i < 27; ++i) {
+        mat.rodstocks.bars.push_back(BarSet(L"500", 1, 6, 5800));
+    }
+    for (int i = 0; i < 25; ++i) {
+        mat.rodstocks.bars.push_back(BarSet(L"500", 1, 6, 2200));
+    }
+    element.reinforcement.mats = {mat};
+    const Bom::ElementBill bill = Bom::BillOf(Order{}, element);
+    ASSERT_EQ(bill.bars.size(), 1u);
+    EXPECT_EQ(bill.bars[0].grade, "500");
+    EXPECT_EQ(bill.bars[0].diameter, 6);
+    EXPECT_EQ(bill.bars[0].count, 52);
+    // 27 x 5800 + 25 x 2200 = 156600 + 55000 = 211600 mm.
+    EXPECT_EQ(bill.bars[0].totalLength, 211600);
+    // 211.6 m x 6² x 0.0061654 kg/m = 211.6 x 0.2219544 = 46.96555 kg.
+    EXPECT_NEAR(bill.bars[0].weight, 46.966, 1e-9);
+    EXPECT_NEAR(bill.steelWeight, 46.966, 1e-9);
+    ASSERT_EQ(bill.mats.size(), 1u);
+    EXPECT_EQ(bill.mats[0].type, "Q188A");
+    EXPECT_EQ(bill.mats[0].count, 1);
+}
+
+// Loose sets, the wires of two mats alike, a layer's mat, girder groups,
+// irons, parts and concrete layers.
+TEST(BillOfMaterials, AMixedElementGroupsByGradeAndDiameterAndAddsTheTotals)
+{
+    ElementPart element;
+    element.version = 600;
+    // Loose: 12 x Ø10 x 5600 and 5 x Ø10 x 3000 of grade 500, 4 x Ø12 x 1400
+    // of B500B.
+    element.rodstockData.bars = {BarSet(L"500", 12, 10, 5600, 150), BarSet(L"500       ", 5, 10, 3000, 400),
+                                 BarSet(L"B500B", 4, 12, 1400, 200)};
     Steelmat mat;
     mat.name = L"          Q257, upper";
-    mat.firstDimension = 4000;
-    mat.secondDimension = 2000;
-    mat.rodstocks.bars = {bar(L"B500A", 8, 4000), bar(L"B500A", 10, 250)};
+    mat.rodstocks.bars = {BarSet(L"500", 1, 8, 4000), BarSet(L"500", 1, 10, 250)};
     element.reinforcement.mats = {mat, mat};
     Layer layer;
     Steelmat layerMat;
     layerMat.name = L"Q188A";
-    layerMat.firstDimension = 1000;
-    layerMat.secondDimension = 500;
-    layerMat.rodstocks.bars = {bar(L"B500A", 8, 1000)};
+    layerMat.rodstocks.bars = {BarSet(L"500", 3, 8, 1000, 100)};
     layer.reinforcement.mats = {layerMat};
     element.layers = {layer};
+    BracedGirder girder;
+    girder.designation = L"KT 800";
+    girder.typeNumber = 4;
+    girder.firstSize = 5400;
+    girder.scaledValue = 8.5;
+    BracedGirder shorter = girder;
+    shorter.typeNumber = 2;
+    shorter.firstSize = 2400;
+    shorter.scaledValue = 3.75;
+    element.bracedGirderData.girders = {girder, shorter};
     ExternalIron anchor;
-    anchor.ironText = L"Anchor";
-    anchor.ironCode = 2;
+    anchor.ironText = L"Lifting anchor";
     anchor.ironCount = 4;
     anchor.ironValue = 1.5;
     ExternalIron again = anchor;
     again.ironCount = 3;
+    again.ironValue = 0.75;
     element.externalIronData.irons = {anchor, again};
     MountingPart part(600);
     part.partName = L"Socket box";
     element.mountingPartData.parts = {part, part};
+    ConcreteLayer concrete(600);
+    concrete.layerNumber = 1;
+    concrete.layerKind = 0;
+    concrete.layerThickness = 60;
+    concrete.layerName = L"C30/37";
+    concrete.firstFactor = 2.4;
+    concrete.secondFactor = 799.2;
+    ConcreteLayer insulation(600);
+    insulation.layerNumber = 2;
+    insulation.layerKind = 2;
+    insulation.layerThickness = 100;
+    insulation.layerName = L"EPS";
+    insulation.firstFactor = 0.02;
+    insulation.secondFactor = 1332;
+    element.concreteLayers = {concrete, insulation};
     Order order;
     order.orderNumber = L"A-1";
     element.elementNumberText = L"12";
@@ -378,35 +275,69 @@ TEST(BillOfMaterials, GroupsBarsByDesignationAndDiameterOverLooseBarsMatsAndLaye
     const Bom::ElementBill bill = Bom::BillOf(order, element);
     EXPECT_EQ(bill.order, "A-1");
     EXPECT_EQ(bill.element, "12");
-    // B500A 8: 4000 twice (two mats alike) and 1000 of the layer's mat.
-    // B500A 10: 1000 + 1500 loose, 250 twice in the mats. B500B 10: 700.
+    // 500 Ø8: 4000 in each of the two mats and 3 x 1000 in the layer's mat:
+    // 5 bars, 11000 mm, 11 m x 0.394586 kg/m = 4.340446 kg.
+    // 500 Ø10: 12 x 5600 + 5 x 3000 loose, 250 in each mat: 19 bars,
+    // 67200 + 15000 + 500 = 82700 mm, 82.7 m x 0.61654 = 50.987858 kg.
+    // B500B Ø12: 4 x 1400 = 5600 mm, 5.6 m x 0.8878176 = 4.97177856 kg.
     ASSERT_EQ(bill.bars.size(), 3u);
-    EXPECT_EQ(bill.bars[0].designation, "B500A");
+    EXPECT_EQ(bill.bars[0].grade, "500");
     EXPECT_EQ(bill.bars[0].diameter, 8);
-    EXPECT_EQ(bill.bars[0].count, 3);
-    EXPECT_EQ(bill.bars[0].totalLength, 9000);
-    EXPECT_EQ(bill.bars[1].designation, "B500A");
+    EXPECT_EQ(bill.bars[0].count, 5);
+    EXPECT_EQ(bill.bars[0].totalLength, 11000);
+    EXPECT_NEAR(bill.bars[0].weight, 4.340, 1e-9);
+    EXPECT_EQ(bill.bars[1].grade, "500");
     EXPECT_EQ(bill.bars[1].diameter, 10);
-    EXPECT_EQ(bill.bars[1].count, 4);
-    EXPECT_EQ(bill.bars[1].totalLength, 3000);
-    EXPECT_EQ(bill.bars[2].designation, "B500B");
-    EXPECT_EQ(bill.bars[2].count, 1);
-    EXPECT_EQ(bill.bars[2].totalLength, 700);
+    EXPECT_EQ(bill.bars[1].count, 19);
+    EXPECT_EQ(bill.bars[1].totalLength, 82700);
+    EXPECT_NEAR(bill.bars[1].weight, 50.988, 1e-9);
+    EXPECT_EQ(bill.bars[2].grade, "B500B");
+    EXPECT_EQ(bill.bars[2].count, 4);
+    EXPECT_EQ(bill.bars[2].totalLength, 5600);
+    EXPECT_NEAR(bill.bars[2].weight, 4.972, 1e-9);
+    // KT 800: 4 of 5400 and 2 of 2400: 6 girders, 26400 mm, 4 x 8.5 + 2 x 3.75
+    // = 41.5 kg.
+    ASSERT_EQ(bill.girders.size(), 1u);
+    EXPECT_EQ(bill.girders[0].type, "KT 800");
+    EXPECT_EQ(bill.girders[0].count, 6);
+    EXPECT_EQ(bill.girders[0].totalLength, 26400);
+    EXPECT_NEAR(bill.girders[0].weight, 41.5, 1e-9);
     ASSERT_EQ(bill.mats.size(), 2u);
-    EXPECT_EQ(bill.mats[0].name, "Q188A");
+    EXPECT_EQ(bill.mats[0].type, "Q188A");
     EXPECT_EQ(bill.mats[0].count, 1);
-    EXPECT_EQ(bill.mats[1].name, "Q257, upper");
+    EXPECT_EQ(bill.mats[1].type, "Q257, upper");
     EXPECT_EQ(bill.mats[1].count, 2);
+    // The irons: 7 pieces, 1.5 + 0.75 kg.
     ASSERT_EQ(bill.irons.size(), 1u);
     EXPECT_EQ(bill.irons[0].count, 7);
+    EXPECT_NEAR(bill.irons[0].weight, 2.25, 1e-9);
     ASSERT_EQ(bill.parts.size(), 1u);
     EXPECT_EQ(bill.parts[0].count, 2);
-    EXPECT_TRUE(bill.girders.empty());
+    // 2.4 x 799.2 = 1918.08 kg of concrete, 0.02 x 1332 = 26.64 kg of
+    // insulation.
+    ASSERT_EQ(bill.layers.size(), 2u);
+    EXPECT_EQ(bill.layers[0].kind, "concrete");
+    EXPECT_NEAR(bill.layers[0].mass, 1918.08, 1e-9);
+    EXPECT_EQ(bill.layers[1].kind, "insulation");
+    EXPECT_NEAR(bill.layers[1].mass, 26.64, 1e-9);
+    EXPECT_NEAR(bill.concreteMass, 1944.72, 1e-9);
+    // Steel: 4.340 + 50.988 + 4.972 + 41.5 + 2.25 = 104.05 kg.
+    EXPECT_NEAR(bill.steelWeight, 104.05, 1e-9);
 
     // A name with a comma is quoted in CSV.
     const std::string csv = Bom::BillCsv({bill});
-    EXPECT_NE(csv.find("A-1,12,mat,\"Q257, upper\",,,,,4000,2000,2,\n"), std::string::npos) << csv;
-    // An empty kind says so in the table.
+    EXPECT_NE(csv.find("A-1,12,mat,\"Q257, upper\",,2,,,,\n"), std::string::npos) << csv;
+    EXPECT_NE(csv.find("A-1,12,bar,500,10,19,82700,,50.99,\n"), std::string::npos) << csv;
+    EXPECT_NE(csv.find("A-1,12,steel,,,,,,104.05,\n"), std::string::npos) << csv;
+    const std::string text = Bom::BillText({bill});
+    EXPECT_NE(text.find("  500               10     19            82.700        50.99\n"), std::string::npos) << text;
+    EXPECT_NE(text.find("Steel 104.05 kg, concrete 1944.72 kg\n"), std::string::npos) << text;
+    EXPECT_NE(text.find("File: steel 104.05 kg, concrete 1944.72 kg\n"), std::string::npos) << text;
+}
+
+TEST(BillOfMaterials, AnEmptyKindSaysSo)
+{
+    const Bom::ElementBill bill = Bom::BillOf(Order{}, ElementPart{});
     EXPECT_NE(Bom::BillText({bill}).find("Braced girders\n  none\n"), std::string::npos);
 }
 

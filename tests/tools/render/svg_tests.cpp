@@ -130,14 +130,14 @@ TEST_F(SlabSvg, TheDrawingIsFlippedOnceAtItsRootGroupAndItsTextsStandUpright)
     // A text in the drawing turns back, so that its own y points down again.
     const std::vector<const XMLElement*> texts = All(drawing, "text");
     ASSERT_EQ(texts.size(), 1u);
-    EXPECT_STREQ(texts[0]->GetText(), "Socket box");
+    EXPECT_STREQ(texts[0]->GetText(), "Socket box, height 60 mm");
     EXPECT_STREQ(texts[0]->Attribute("transform"), "scale(1 -1)");
     EXPECT_EQ(ToRoot(texts[0]).d, 1.0);
-    // It stands above the part's box, whose top is y = 1300 on the drawing:
-    // in the root's coordinates that is above -1300.
+    // It stands above the part's box, (4700, 1000) to (4800, 1100): in the
+    // root's coordinates above -1100, in the middle of x.
     const Point anchor = ToRoot(texts[0]).Apply({texts[0]->DoubleAttribute("x"), texts[0]->DoubleAttribute("y")});
-    EXPECT_EQ(anchor.x, 4550.0);
-    EXPECT_LT(anchor.y, -1300.0);
+    EXPECT_EQ(anchor.x, 4750.0);
+    EXPECT_LT(anchor.y, -1100.0);
 }
 
 TEST_F(SlabSvg, EveryRecordIsAGroupWithItsClassIdAndFields)
@@ -152,11 +152,10 @@ TEST_F(SlabSvg, EveryRecordIsAGroupWithItsClassIdAndFields)
         {"cutout-1", "cutout", "cutoutName: Stair opening"},
         {"mountingpart-1", "mountingpart", "partName: Socket box"},
         {"steelmat-1", "steelmat", "name: Q188A"},
-        {"steelmat-1-rodstock-1", "rodstock", "firstSize: 5800"},
-        {"steelmat-1-rodstock-2", "rodstock", "rotation: 90"},
-        {"bracedgirder-1", "bracedgirder", "lastNumber: 5400"},
-        {"bracedgirder-2", "bracedgirder", "position.y: 2000"},
-        {"rodstock-1", "rodstock", "secondSize: 12"},
+        {"steelmat-1-rodstock-1", "rodstock", "thirdSize: 5800"},
+        {"steelmat-1-rodstock-16", "rodstock", "rotation: 90"},
+        {"bracedgirder-1", "bracedgirder", "firstSize: 3400"},
+        {"rodstock-1", "rodstock", "secondSize: 10"},
         {"rodstock-2", "rodstock", "freeForm.parts[0].segments[3].angle: 45"},
     };
     for (const Expected& record : records) {
@@ -173,12 +172,13 @@ TEST_F(SlabSvg, EveryRecordIsAGroupWithItsClassIdAndFields)
     }
     // A mat's bars stand in the mat's group.
     EXPECT_EQ(slab->Group("steelmat-1-rodstock-1")->Parent(), slab->Group("steelmat-1"));
-    // Nothing else is drawn: ten groups with ids inside the drawing.
+    // Nothing else is drawn: the contour, the opening, the part, the mat and
+    // its 54 wires, the girder group and two bar sets.
     int groups = 0;
     for (const XMLElement* g : All(slab->Group("drawing"), "g")) {
         groups += g->Attribute("id") != nullptr ? 1 : 0;
     }
-    EXPECT_EQ(groups, 10);
+    EXPECT_EQ(groups, 61);
 }
 
 TEST_F(SlabSvg, TheExternalIronIsListedInTheTitleBlockNotDrawn)
@@ -194,7 +194,7 @@ TEST_F(SlabSvg, TheExternalIronIsListedInTheTitleBlockNotDrawn)
     }
     const std::vector<std::string> expected = {"Order ORD-2026-0142", "Element 101: Floor slab FS-101",
                                                "Format version 600", "Extents 6000 x 2400 mm",
-                                               "External iron 1: Lifting anchor, 4 pieces, code 2"};
+                                               "External iron 1: Lifting anchor, 4 pieces, 1.60 kg, code 2"};
     EXPECT_EQ(lines, expected);
 }
 
@@ -229,28 +229,66 @@ TEST_F(SlabSvg, TheOpeningsCornersStandWhereTheFlipPutsThem)
     EXPECT_STREQ(slab->Group("cutout-1")->FirstChildElement("path")->Attribute("class"), "opening");
 }
 
-TEST_F(SlabSvg, ABarEndsWhereItsRotationAndLengthTakeIt)
+TEST_F(SlabSvg, EachBarOfASetStandsAtItsPitchForItsLength)
 {
-    // The mat's second bar: (150, 150), a quarter turn, 2200 long, 8 thick.
-    ExpectPoints(slab->PointsOf("steelmat-1-rodstock-2"), {{150, -150}, {150, -2350}});
-    EXPECT_STREQ(slab->Group("steelmat-1-rodstock-2")->FirstChildElement("path")->Attribute("stroke-width"), "8");
-    // The mat's first bar runs along x: 150 + 5800.
-    ExpectPoints(slab->PointsOf("steelmat-1-rodstock-1"), {{150, -150}, {5950, -150}});
-    // The loose bar at (900, 500), 1400 long, 12 thick.
-    ExpectPoints(slab->PointsOf("rodstock-1"), {{900, -500}, {2300, -500}});
-    const XMLElement* loose = slab->Group("rodstock-1")->FirstChildElement("path");
-    EXPECT_STREQ(loose->Attribute("stroke-width"), "12");
-    EXPECT_STREQ(loose->Attribute("class"), "bar");
-    // The hook follows its seven segments (400 cos 45 = 282.84 and
-    // 150 cos 45 = 106.07, rounded to the hundredth the file carries).
-    ExpectPoints(slab->PointsOf("rodstock-2"), {{2400, -1000},
-                                                {2400, -1250},
-                                                {3600, -1250},
-                                                {3600, -1000},
-                                                {3882.84, -1282.84},
-                                                {4182.84, -1282.84},
-                                                {4288.91, -1176.78},
-                                                {4388.91, -1176.78}});
+    // 5 bars of 10 mm, 3000 long, from (2600, 400) along x, 400 apart: one
+    // path, bar by bar, y turned down.
+    ExpectPoints(slab->PointsOf("rodstock-1"), {{2600, -400},
+                                                {5600, -400},
+                                                {2600, -800},
+                                                {5600, -800},
+                                                {2600, -1200},
+                                                {5600, -1200},
+                                                {2600, -1600},
+                                                {5600, -1600},
+                                                {2600, -2000},
+                                                {5600, -2000}});
+    const XMLElement* set = slab->Group("rodstock-1")->FirstChildElement("path");
+    EXPECT_STREQ(set->Attribute("stroke-width"), "10");
+    EXPECT_STREQ(set->Attribute("class"), "bar");
+    // Hovering says what the set is.
+    const std::string title = slab->Group("rodstock-1")->FirstChildElement("title")->GetText();
+    EXPECT_NE(title.find("\n5 \u00d7 \u00d810 \u00d7 3000 mm, pitch 400 mm, z 50 mm, grade 500\n"), std::string::npos)
+        << title;
+}
+
+TEST_F(SlabSvg, ABentBarShowsItsLegsInPlanAtTheCosineOfTheTurnsBeforeThem)
+{
+    // 2 cranked bars from (600, 450), 1200 apart: legs of 300, 400 at 45
+    // degrees (282.84 in plan), 1500, 400 at -45 and 300, so x runs 600, 900,
+    // 1182.84, 2682.84, 2965.69, 3265.69 (the hundredths the file carries).
+    const std::vector<double> xs = {600, 900, 1182.84, 2682.84, 2965.69, 3265.69};
+    std::vector<Point> expected;
+    for (const double y : {-450.0, -1650.0}) {
+        for (const double x : xs) {
+            expected.push_back({x, y});
+        }
+    }
+    ExpectPoints(slab->PointsOf("rodstock-2"), expected);
+    EXPECT_STREQ(slab->Group("rodstock-2")->FirstChildElement("path")->Attribute("stroke-width"), "12");
+}
+
+TEST_F(SlabSvg, AMatsWiresStandFromTheMatsCorner)
+{
+    // The mat's corner is (100, 100). Its first wire: (0, 25) along x, 5800
+    // long; its sixteenth the first across: (25, 0), a quarter turn, 2200.
+    ExpectPoints(slab->PointsOf("steelmat-1-rodstock-1"), {{100, -125}, {5900, -125}});
+    ExpectPoints(slab->PointsOf("steelmat-1-rodstock-16"), {{125, -100}, {125, -2300}});
+    EXPECT_STREQ(slab->Group("steelmat-1-rodstock-16")->FirstChildElement("path")->Attribute("stroke-width"), "6");
+    EXPECT_STREQ(slab->Group("steelmat-1-rodstock-16")->FirstChildElement("path")->Attribute("class"), "mat-bar");
+}
+
+TEST_F(SlabSvg, EachGirderOfAGroupHasItsTwoChordsAtItsSpacing)
+{
+    // 4 girders from (2400, 300) along x, 3400 long, 600 apart: the chords
+    // of each stand 40 mm to either side of its axis at y = 300 + 600 i.
+    std::vector<Point> expected;
+    for (int i = 0; i < 4; ++i) {
+        const double y = 300.0 + 600.0 * i;
+        expected.insert(expected.end(), {{2400, -(y + 40)}, {5800, -(y + 40)}, {2400, -(y - 40)}, {5800, -(y - 40)}});
+    }
+    ExpectPoints(slab->PointsOf("bracedgirder-1"), expected);
+    EXPECT_STREQ(slab->Group("bracedgirder-1")->FirstChildElement("path")->Attribute("class"), "girder-chord");
 }
 
 TEST_F(SlabSvg, TheMatIsItsRectangleFromItsCorner)

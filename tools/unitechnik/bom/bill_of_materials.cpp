@@ -1,26 +1,33 @@
 #include "bom/bill_of_materials.h"
 
+#include "plant/plant_text.h"
+#include "plant/plant_view.h"
 #include "svg/element_places.h"
-#include "svg/plant_conventions.h"
 #include "tree/tree_text.h"
 
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <map>
-#include <tuple>
 
 namespace ItUnitechnik::Bom {
 
 namespace {
 
-using Drawing::kPlant;
-
-std::string Shortest(double value)
+// Grams are the finest the bill shows: a weight is kept to three decimals of
+// a kg, so the JSON's numbers do not carry the noise of the sums.
+double ToGrams(double kilograms)
 {
-    char buffer[64];
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+    return std::round(kilograms * 1000.0) / 1000.0;
+}
+
+std::string Metres(std::int64_t millimetres)
+{
+    char buffer[32];
+    const auto result = std::to_chars(buffer, buffer + sizeof buffer, static_cast<double>(millimetres) / 1000.0,
+                                      std::chars_format::fixed, 3);
     return std::string(buffer, result.ptr);
 }
 
@@ -30,59 +37,77 @@ public:
     void Element(const ElementPart& element)
     {
         for (const Rodstock& bar : element.rodstockData.bars) {
-            Bar(bar);
+            Bar(Plant::BarSetOf(bar));
         }
         for (const BracedGirder& girder : element.bracedGirderData.girders) {
-            Girder(girder);
+            Girder(Plant::GirderGroupOf(girder));
         }
         Block(element.reinforcement);
         for (const ExternalIron& iron : element.externalIronData.irons) {
             Iron(iron);
         }
         for (const MountingPart& part : element.mountingPartData.parts) {
-            ++parts_[Tree::Shown(part.partName)];
+            ++parts_[Tree::Shown(Plant::kPart.name(part))];
         }
         for (const Layer& layer : element.layers) {
             Block(layer.reinforcement);
             for (const MountingPart& part : layer.mountingPartData.parts) {
-                ++parts_[Tree::Shown(part.partName)];
+                ++parts_[Tree::Shown(Plant::kPart.name(part))];
             }
+        }
+        for (const ConcreteLayer& layer : element.concreteLayers) {
+            const Plant::ConcreteLayerView view = Plant::LayerOf(layer);
+            layers_.push_back({layer.layerNumber, Plant::LayerKindName(view.kind), Tree::Shown(view.name),
+                               view.thickness, ToGrams(view.Mass())});
         }
     }
 
+    // Each line's weight is rounded once, from its exact sum; the element's
+    // steel is the sum of the lines as shown.
     void Into(ElementBill& bill) const
     {
-        for (const auto& [key, line] : bars_) {
+        for (auto [key, line] : bars_) {
+            line.weight = ToGrams(line.weight);
             bill.bars.push_back(line);
+            bill.steelWeight += line.weight;
         }
-        for (const auto& [key, line] : girders_) {
+        for (auto [key, line] : girders_) {
+            line.weight = ToGrams(line.weight);
             bill.girders.push_back(line);
+            bill.steelWeight += line.weight;
         }
         for (const auto& [key, line] : mats_) {
             bill.mats.push_back(line);
         }
-        for (const auto& [key, line] : irons_) {
+        for (auto [key, line] : irons_) {
+            line.weight = ToGrams(line.weight);
             bill.irons.push_back(line);
+            bill.steelWeight += line.weight;
         }
         for (const auto& [name, count] : parts_) {
             bill.parts.push_back({name, count});
         }
+        bill.layers = layers_;
+        for (const LayerLine& layer : layers_) {
+            bill.concreteMass += layer.mass;
+        }
+        bill.steelWeight = ToGrams(bill.steelWeight);
+        bill.concreteMass = ToGrams(bill.concreteMass);
     }
 
 private:
     void Block(const Reinforcement& reinforcement)
     {
         for (const Steelmat& mat : reinforcement.mats) {
-            MatLine& line = mats_[{Tree::Shown(mat.name), kPlant.matLength.Of(mat), kPlant.matWidth.Of(mat)}];
-            line.name = Tree::Shown(mat.name);
-            line.length = kPlant.matLength.Of(mat);
-            line.width = kPlant.matWidth.Of(mat);
+            const Plant::Mat view = Plant::MatOf(mat);
+            MatLine& line = mats_[Tree::Shown(view.type)];
+            line.type = Tree::Shown(view.type);
             ++line.count;
-            for (const Rodstock& bar : mat.rodstocks.bars) {
-                Bar(bar);
+            for (const Plant::BarSet& set : view.bars) {
+                Bar(set);
             }
-            for (const BracedGirder& girder : mat.girders.girders) {
-                Girder(girder);
+            for (const Plant::GirderGroup& group : view.girders) {
+                Girder(group);
             }
         }
         if (reinforcement.hasExternalIrons) {
@@ -92,43 +117,44 @@ private:
         }
     }
 
-    void Bar(const Rodstock& bar)
+    void Bar(const Plant::BarSet& set)
     {
-        const std::string designation = Tree::Shown(bar.designation);
-        BarLine& line = bars_[{designation, kPlant.barDiameter.Of(bar)}];
-        line.designation = designation;
-        line.diameter = kPlant.barDiameter.Of(bar);
-        ++line.count;
-        line.totalLength += kPlant.barLength.Of(bar);
+        const std::string grade = Tree::Shown(set.grade);
+        BarLine& line = bars_[{grade, set.diameter}];
+        line.grade = grade;
+        line.diameter = set.diameter;
+        line.count += set.count;
+        line.totalLength += Plant::TotalLength(set);
+        line.weight += Plant::Weight(set);
     }
 
-    void Girder(const BracedGirder& girder)
+    void Girder(const Plant::GirderGroup& group)
     {
-        const std::string designation = Tree::Shown(girder.designation);
-        GirderLine& line = girders_[{designation, kPlant.girderType.Of(girder)}];
-        line.designation = designation;
-        line.type = kPlant.girderType.Of(girder);
-        ++line.count;
-        line.totalLength += kPlant.girderLength.Of(girder);
+        const std::string type = Tree::Shown(group.type);
+        GirderLine& line = girders_[type];
+        line.type = type;
+        line.count += group.count;
+        line.totalLength += static_cast<std::int64_t>(group.count) * group.length;
+        line.weight += static_cast<double>(group.count) * group.weight;
     }
 
     void Iron(const ExternalIron& iron)
     {
-        const std::string text = Tree::Shown(iron.ironText);
-        // A value that is not a number still makes one group.
-        const double value = iron.ironValue == iron.ironValue ? iron.ironValue : 0.0;
-        IronLine& line = irons_[{text, kPlant.ironCode.Of(iron), value}];
-        line.text = text;
-        line.code = kPlant.ironCode.Of(iron);
-        line.value = value;
-        line.count += kPlant.ironCount.Of(iron);
+        const Plant::Iron view = Plant::IronOf(iron);
+        const std::string name = Tree::Shown(view.name);
+        IronLine& line = irons_[name];
+        line.name = name;
+        line.count += view.count;
+        // A weight that is not a number adds nothing.
+        line.weight += std::isfinite(view.weight) ? view.weight : 0.0;
     }
 
-    std::map<std::tuple<std::string, std::int32_t>, BarLine> bars_;
-    std::map<std::tuple<std::string, std::int32_t>, GirderLine> girders_;
-    std::map<std::tuple<std::string, std::int32_t, std::int32_t>, MatLine> mats_;
-    std::map<std::tuple<std::string, std::int32_t, double>, IronLine> irons_;
+    std::map<std::pair<std::string, std::int32_t>, BarLine> bars_;
+    std::map<std::string, GirderLine> girders_;
+    std::map<std::string, MatLine> mats_;
+    std::map<std::string, IronLine> irons_;
     std::map<std::string, std::int64_t> parts_;
+    std::vector<LayerLine> layers_;
 };
 
 // The characters of a UTF-8 text, for the width of a column.
@@ -186,6 +212,24 @@ std::string CsvLine(const std::vector<std::string>& cells)
     return line + "\n";
 }
 
+double FileSteelWeight(const std::vector<ElementBill>& bills)
+{
+    double total = 0.0;
+    for (const ElementBill& bill : bills) {
+        total += bill.steelWeight;
+    }
+    return ToGrams(total);
+}
+
+double FileConcreteMass(const std::vector<ElementBill>& bills)
+{
+    double total = 0.0;
+    for (const ElementBill& bill : bills) {
+        total += bill.concreteMass;
+    }
+    return ToGrams(total);
+}
+
 } // namespace
 
 ElementBill BillOf(const Order& order, const ElementPart& element)
@@ -218,32 +262,33 @@ std::vector<BillTable> BillTables(const ElementBill& bill)
 {
     std::vector<BillTable> tables;
 
-    BillTable bars{
-        "Bars", {"Designation", "Diameter (mm)", "Count", "Total length (mm)"}, {false, true, true, true}, {}};
+    BillTable bars{"Bars",
+                   {"Grade", "Diameter (mm)", "Count", "Total length (m)", "Weight (kg)"},
+                   {false, true, true, true, true},
+                   {}};
     for (const BarLine& line : bill.bars) {
-        bars.rows.push_back({line.designation, std::to_string(line.diameter), std::to_string(line.count),
-                             std::to_string(line.totalLength)});
+        bars.rows.push_back({line.grade, std::to_string(line.diameter), std::to_string(line.count),
+                             Metres(line.totalLength), Plant::Kilograms(line.weight)});
     }
     tables.push_back(std::move(bars));
 
     BillTable girders{
-        "Braced girders", {"Designation", "Type", "Count", "Total length (mm)"}, {false, true, true, true}, {}};
+        "Braced girders", {"Type", "Count", "Total length (m)", "Weight (kg)"}, {false, true, true, true}, {}};
     for (const GirderLine& line : bill.girders) {
-        girders.rows.push_back({line.designation, std::to_string(line.type), std::to_string(line.count),
-                                std::to_string(line.totalLength)});
+        girders.rows.push_back(
+            {line.type, std::to_string(line.count), Metres(line.totalLength), Plant::Kilograms(line.weight)});
     }
     tables.push_back(std::move(girders));
 
-    BillTable mats{"Mats", {"Name", "Length (mm)", "Width (mm)", "Count"}, {false, true, true, true}, {}};
+    BillTable mats{"Mats", {"Type", "Count"}, {false, true}, {}};
     for (const MatLine& line : bill.mats) {
-        mats.rows.push_back(
-            {line.name, std::to_string(line.length), std::to_string(line.width), std::to_string(line.count)});
+        mats.rows.push_back({line.type, std::to_string(line.count)});
     }
     tables.push_back(std::move(mats));
 
-    BillTable irons{"External irons", {"Text", "Code", "Value", "Count"}, {false, true, true, true}, {}};
+    BillTable irons{"External irons", {"Name", "Count", "Weight (kg)"}, {false, true, true}, {}};
     for (const IronLine& line : bill.irons) {
-        irons.rows.push_back({line.text, std::to_string(line.code), Shortest(line.value), std::to_string(line.count)});
+        irons.rows.push_back({line.name, std::to_string(line.count), Plant::Kilograms(line.weight)});
     }
     tables.push_back(std::move(irons));
 
@@ -252,7 +297,23 @@ std::vector<BillTable> BillTables(const ElementBill& bill)
         parts.rows.push_back({line.name, std::to_string(line.count)});
     }
     tables.push_back(std::move(parts));
+
+    BillTable layers{"Concrete layers",
+                     {"Layer", "Kind", "Name", "Thickness (mm)", "Mass (kg)"},
+                     {true, false, false, true, true},
+                     {}};
+    for (const LayerLine& line : bill.layers) {
+        layers.rows.push_back({std::to_string(line.number), line.kind, line.name, std::to_string(line.thickness),
+                               Plant::Kilograms(line.mass)});
+    }
+    tables.push_back(std::move(layers));
     return tables;
+}
+
+std::string BillTotals(const ElementBill& bill)
+{
+    return "Steel " + Plant::Kilograms(bill.steelWeight) + " kg, concrete " + Plant::Kilograms(bill.concreteMass) +
+           " kg";
 }
 
 std::string BillText(const std::vector<ElementBill>& bills)
@@ -266,39 +327,45 @@ std::string BillText(const std::vector<ElementBill>& bills)
         for (const BillTable& table : BillTables(bill)) {
             out += "\n" + table.heading + "\n" + (table.rows.empty() ? std::string("  none\n") : TableText(table));
         }
+        out += "\n" + BillTotals(bill) + "\n";
     }
+    out += "\nFile: steel " + Plant::Kilograms(FileSteelWeight(bills)) + " kg, concrete " +
+           Plant::Kilograms(FileConcreteMass(bills)) + " kg\n";
     return out;
 }
 
 std::string BillCsv(const std::vector<ElementBill>& bills)
 {
-    std::string out = CsvLine({"order", "element", "kind", "name", "diameter_mm", "type", "code", "value", "length_mm",
-                               "width_mm", "count", "total_length_mm"});
+    std::string out = CsvLine({"order", "element", "kind", "name", "diameter_mm", "count", "total_length_mm",
+                               "thickness_mm", "weight_kg", "mass_kg"});
     for (const ElementBill& bill : bills) {
         const auto line = [&](const char* kind, const std::string& name, const std::string& diameter,
-                              const std::string& type, const std::string& code, const std::string& value,
-                              const std::string& length, const std::string& width, std::int64_t count,
-                              const std::string& total) {
-            out += CsvLine({bill.order, bill.element, kind, name, diameter, type, code, value, length, width,
-                            std::to_string(count), total});
+                              const std::string& count, const std::string& total, const std::string& thickness,
+                              const std::string& weight, const std::string& mass) {
+            out += CsvLine({bill.order, bill.element, kind, name, diameter, count, total, thickness, weight, mass});
         };
         for (const BarLine& l : bill.bars) {
-            line("bar", l.designation, std::to_string(l.diameter), "", "", "", "", "", l.count,
-                 std::to_string(l.totalLength));
+            line("bar", l.grade, std::to_string(l.diameter), std::to_string(l.count), std::to_string(l.totalLength), "",
+                 Plant::Kilograms(l.weight), "");
         }
         for (const GirderLine& l : bill.girders) {
-            line("braced girder", l.designation, "", std::to_string(l.type), "", "", "", "", l.count,
-                 std::to_string(l.totalLength));
+            line("braced girder", l.type, "", std::to_string(l.count), std::to_string(l.totalLength), "",
+                 Plant::Kilograms(l.weight), "");
         }
         for (const MatLine& l : bill.mats) {
-            line("mat", l.name, "", "", "", "", std::to_string(l.length), std::to_string(l.width), l.count, "");
+            line("mat", l.type, "", std::to_string(l.count), "", "", "", "");
         }
         for (const IronLine& l : bill.irons) {
-            line("external iron", l.text, "", "", std::to_string(l.code), Shortest(l.value), "", "", l.count, "");
+            line("external iron", l.name, "", std::to_string(l.count), "", "", Plant::Kilograms(l.weight), "");
         }
         for (const PartLine& l : bill.parts) {
-            line("mounted part", l.name, "", "", "", "", "", "", l.count, "");
+            line("mounted part", l.name, "", std::to_string(l.count), "", "", "", "");
         }
+        for (const LayerLine& l : bill.layers) {
+            line("concrete layer", l.name, "", "", "", std::to_string(l.thickness), "", Plant::Kilograms(l.mass));
+        }
+        line("steel", "", "", "", "", "", Plant::Kilograms(bill.steelWeight), "");
+        line("concrete", "", "", "", "", "", "", Plant::Kilograms(bill.concreteMass));
     }
     return out;
 }
@@ -314,34 +381,43 @@ std::string BillJson(const std::vector<ElementBill>& bills)
         element["text"] = bill.text;
         element["bars"] = ordered_json::array();
         for (const BarLine& l : bill.bars) {
-            element["bars"].push_back(ordered_json{{"designation", l.designation},
+            element["bars"].push_back(ordered_json{{"grade", l.grade},
                                                    {"diameter", l.diameter},
                                                    {"count", l.count},
-                                                   {"totalLength", l.totalLength}});
+                                                   {"totalLength", l.totalLength},
+                                                   {"weight", l.weight}});
         }
-        element["bracedGirders"] = ordered_json::array();
+        element["girders"] = ordered_json::array();
         for (const GirderLine& l : bill.girders) {
-            element["bracedGirders"].push_back(ordered_json{
-                {"designation", l.designation}, {"type", l.type}, {"count", l.count}, {"totalLength", l.totalLength}});
+            element["girders"].push_back(ordered_json{
+                {"type", l.type}, {"count", l.count}, {"totalLength", l.totalLength}, {"weight", l.weight}});
         }
         element["mats"] = ordered_json::array();
         for (const MatLine& l : bill.mats) {
-            element["mats"].push_back(
-                ordered_json{{"name", l.name}, {"length", l.length}, {"width", l.width}, {"count", l.count}});
+            element["mats"].push_back(ordered_json{{"type", l.type}, {"count", l.count}});
         }
         element["externalIrons"] = ordered_json::array();
         for (const IronLine& l : bill.irons) {
             element["externalIrons"].push_back(
-                ordered_json{{"text", l.text}, {"code", l.code}, {"value", l.value}, {"count", l.count}});
+                ordered_json{{"name", l.name}, {"count", l.count}, {"weight", l.weight}});
         }
         element["mountedParts"] = ordered_json::array();
         for (const PartLine& l : bill.parts) {
             element["mountedParts"].push_back(ordered_json{{"name", l.name}, {"count", l.count}});
         }
+        element["concreteLayers"] = ordered_json::array();
+        for (const LayerLine& l : bill.layers) {
+            element["concreteLayers"].push_back(ordered_json{
+                {"layer", l.number}, {"kind", l.kind}, {"name", l.name}, {"thickness", l.thickness}, {"mass", l.mass}});
+        }
+        element["steelWeight"] = bill.steelWeight;
+        element["concreteMass"] = bill.concreteMass;
         elements.push_back(std::move(element));
     }
     ordered_json out = ordered_json::object();
     out["elements"] = std::move(elements);
+    out["steelWeight"] = FileSteelWeight(bills);
+    out["concreteMass"] = FileConcreteMass(bills);
     return out.dump(2) + "\n";
 }
 

@@ -7,37 +7,35 @@
 #include <vector>
 
 // The bill of materials of an element: what the plant's store hands out for
-// it. Bars and girders are grouped, and their lengths added up, by the
-// plant's conventions (svg/plant_conventions.h); the loose bars, the bars of
-// every mat and those of every layer count alike.
+// it, read as the plant reads the records (plant/plant_view.h). A bar record
+// is a set of `count` bars, a girder record a group of `count` girders; the
+// loose bars, the bars of every mat and those of every layer count alike.
 namespace ItUnitechnik::Bom {
 
 struct BarLine {
-    std::string designation;
-    std::int32_t diameter = 0;
-    std::int64_t count = 0;
-    std::int64_t totalLength = 0; // mm
+    std::string grade;
+    std::int32_t diameter = 0;    // mm
+    std::int64_t count = 0;       // bars: the sets' counts added up
+    std::int64_t totalLength = 0; // mm: Σ count x length
+    double weight = 0.0;          // kg, from the diameter
 };
 
 struct GirderLine {
-    std::string designation;
-    std::int32_t type = 0;
-    std::int64_t count = 0;
-    std::int64_t totalLength = 0; // mm
+    std::string type;
+    std::int64_t count = 0;       // girders: the groups' counts added up
+    std::int64_t totalLength = 0; // mm: Σ count x length
+    double weight = 0.0;          // kg: Σ count x the weight of one girder
 };
 
 struct MatLine {
-    std::string name;
-    std::int32_t length = 0; // along x, mm
-    std::int32_t width = 0;  // along y, mm
+    std::string type;
     std::int64_t count = 0;
 };
 
 struct IronLine {
-    std::string text;
-    std::int32_t code = 0;
-    double value = 0.0;
-    std::int64_t count = 0; // pieces: the irons' counts added up
+    std::string name;
+    std::int64_t count = 0; // pieces
+    double weight = 0.0;    // kg
 };
 
 struct PartLine {
@@ -45,15 +43,26 @@ struct PartLine {
     std::int64_t count = 0;
 };
 
+struct LayerLine {
+    std::int32_t number = 0; // the layer's running number
+    std::string kind;        // "concrete", "insulation" or the kind's number
+    std::string name;
+    std::int32_t thickness = 0; // mm
+    double mass = 0.0;          // kg: unit weight x net volume
+};
+
 struct ElementBill {
     std::string order;               // the order's number
     std::string element;             // the element's number
     std::string text;                // the element's text
-    std::vector<BarLine> bars;       // by designation, then diameter
-    std::vector<GirderLine> girders; // by designation, then type
-    std::vector<MatLine> mats;       // by name, then size
-    std::vector<IronLine> irons;     // by text, then code and value
+    std::vector<BarLine> bars;       // by grade, then diameter
+    std::vector<GirderLine> girders; // by type
+    std::vector<MatLine> mats;       // by type
+    std::vector<IronLine> irons;     // by name
     std::vector<PartLine> parts;     // by name
+    std::vector<LayerLine> layers;   // in file order
+    double steelWeight = 0.0;        // kg: bars, girders and irons
+    double concreteMass = 0.0;       // kg: every layer
 };
 
 // One table of the bill: a heading, the column names, which columns hold
@@ -68,22 +77,28 @@ struct BillTable {
 // "Order ..., element ...: text"
 std::string BillHeading(const ElementBill& bill);
 
-// Bars, braced girders, mats, external irons and mounted parts, in this
-// order, each also when it has no rows.
+// Bars, braced girders, mats, external irons, mounted parts and concrete
+// layers, in this order, each also when it has no rows.
 std::vector<BillTable> BillTables(const ElementBill& bill);
+
+// "Steel 123.45 kg, concrete 1918.08 kg"
+std::string BillTotals(const ElementBill& bill);
 
 ElementBill BillOf(const Order& order, const ElementPart& element);
 
 // Every element of the document, in file order.
 std::vector<ElementBill> BillOfDocument(const std::vector<Order>& orders);
 
-// A table per kind under a heading per element, for a person.
+// A table per kind under a heading per element, the element's totals, and
+// the file's steel weight at the end, for a person.
 std::string BillText(const std::vector<ElementBill>& bills);
 
-// One header line, then one line per group of every element.
+// One header line, then one line per group of every element and the
+// element's totals.
 std::string BillCsv(const std::vector<ElementBill>& bills);
 
-// {"elements": [{"order", "element", "text", "bars": [...], ...}]}
+// {"elements": [{"order", "element", "text", "bars": [...], ...}],
+//  "steelWeight", "concreteMass"}
 std::string BillJson(const std::vector<ElementBill>& bills);
 
 } // namespace ItUnitechnik::Bom

@@ -3,8 +3,9 @@
 #include "geometry/arc.h"
 #include "geometry/line_segment.h"
 #include "geometry/polygon.h"
+#include "plant/plant_meanings.h"
+#include "plant/plant_view.h"
 #include "svg/markup_text.h"
-#include "svg/plant_conventions.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,30 +16,6 @@ namespace ItUnitechnik::Drawing {
 namespace {
 
 constexpr double kPi = 3.14159265358979323846;
-
-// Cosine and sine of an angle in degrees; a quarter turn gives 0 and 1
-// exactly, so that a bar at 90 degrees ends on the grid.
-std::pair<double, double> CosSin(double degrees)
-{
-    double d = std::fmod(degrees, 360.0);
-    if (d < 0.0) {
-        d += 360.0;
-    }
-    if (d == 0.0) {
-        return {1.0, 0.0};
-    }
-    if (d == 90.0) {
-        return {0.0, 1.0};
-    }
-    if (d == 180.0) {
-        return {-1.0, 0.0};
-    }
-    if (d == 270.0) {
-        return {0.0, -1.0};
-    }
-    const double radians = d * kPi / 180.0;
-    return {std::cos(radians), std::sin(radians)};
-}
 
 PointD PointOf(const Point2d& point)
 {
@@ -126,8 +103,8 @@ void AddPiece(PathBuilder& path, const Curve* curve)
         if (arc->radius <= 0) {
             return;
         }
-        const double sweep = ArcSweep(kPlant.arcStart.Of(*arc), kPlant.arcEnd.Of(*arc));
-        const double start = static_cast<double>(kPlant.arcStart.Of(*arc));
+        const double sweep = ArcSweep(Plant::kArc.start(*arc), Plant::kArc.end(*arc));
+        const double start = static_cast<double>(Plant::kArc.start(*arc));
         if (sweep >= 360.0) {
             WholeCircle(path, *arc, start);
             return;
@@ -210,8 +187,8 @@ void BoxD::Widen(const BoxD& other)
 
 PointD Along(PointD from, double degrees, double length)
 {
-    const auto [c, s] = CosSin(degrees);
-    return {from.x + length * c, from.y + length * s};
+    const Plant::PlanPoint along = Plant::Direction(degrees);
+    return {from.x + length * along.x, from.y + length * along.y};
 }
 
 PointD CirclePoint(const Circle& circle, double degrees)
@@ -245,8 +222,8 @@ BoxD OutlineBox(const std::vector<GeoData>& pieces)
             if (arc->radius <= 0) {
                 continue;
             }
-            const double start = static_cast<double>(kPlant.arcStart.Of(*arc));
-            const double sweep = ArcSweep(kPlant.arcStart.Of(*arc), kPlant.arcEnd.Of(*arc));
+            const double start = static_cast<double>(Plant::kArc.start(*arc));
+            const double sweep = ArcSweep(Plant::kArc.start(*arc), Plant::kArc.end(*arc));
             box.Widen(CirclePoint(*arc, start));
             box.Widen(CirclePoint(*arc, start + sweep));
             // The quarter points that the arc passes.
@@ -275,32 +252,6 @@ BoxD OutlineBox(const std::vector<GeoData>& pieces)
     return box;
 }
 
-std::vector<PointD> BarPoints(const Rodstock& bar)
-{
-    std::vector<PointD> points{PointOf(bar.position)};
-    const double direction = static_cast<double>(kPlant.barRotation.Of(bar));
-    if (bar.bendingKind == L'2') {
-        for (const BendingFormPart& part : bar.freeForm.parts) {
-            for (const BendingFormSegment& segment : part.segments) {
-                points.push_back(Along(points.back(), direction + static_cast<double>(kPlant.segmentAngle.Of(segment)),
-                                       static_cast<double>(kPlant.segmentLength.Of(segment))));
-            }
-        }
-        if (points.size() > 1) {
-            return points;
-        }
-    }
-    points.push_back(Along(points.back(), direction, static_cast<double>(kPlant.barLength.Of(bar))));
-    return points;
-}
-
-std::vector<PointD> GirderPoints(const BracedGirder& girder)
-{
-    const PointD start = PointOf(girder.position);
-    return {start, Along(start, static_cast<double>(kPlant.girderRotation.Of(girder)),
-                         static_cast<double>(kPlant.girderLength.Of(girder)))};
-}
-
 std::string PolylinePath(const std::vector<PointD>& points)
 {
     std::string data;
@@ -310,22 +261,20 @@ std::string PolylinePath(const std::vector<PointD>& points)
     return data;
 }
 
-GirderPaths GirderDrawing(const BracedGirder& girder)
+GirderPaths GirderDrawing(PointD start, double direction, double length)
 {
-    const std::vector<PointD> axis = GirderPoints(girder);
-    const double length = static_cast<double>(kPlant.girderLength.Of(girder));
-    const double direction = static_cast<double>(kPlant.girderRotation.Of(girder));
+    const PointD end = Along(start, direction, length);
     const double half = kGirderDrawnWidth / 2.0;
     const auto side = [&](PointD point, double offset) { return Along(point, direction + 90.0, offset); };
 
     GirderPaths paths;
-    paths.chords = PolylinePath({side(axis[0], half), side(axis[1], half)}) + " " +
-                   PolylinePath({side(axis[0], -half), side(axis[1], -half)});
+    paths.chords =
+        PolylinePath({side(start, half), side(end, half)}) + " " + PolylinePath({side(start, -half), side(end, -half)});
     // The diagonals of the lattice, one every 100 mm or so.
     const int steps = std::max(1, static_cast<int>(std::lround(std::fabs(length) / 100.0)));
     std::vector<PointD> lattice;
     for (int i = 0; i <= steps; ++i) {
-        const PointD onAxis = Along(axis[0], direction, length * i / steps);
+        const PointD onAxis = Along(start, direction, length * i / steps);
         lattice.push_back(side(onAxis, i % 2 == 0 ? half : -half));
     }
     paths.lattice = PolylinePath(lattice);

@@ -2,8 +2,6 @@
 
 #include "geometry/circle.h"
 #include "geometry/geo_data.h"
-#include "records/reinforcement/braced_girder.h"
-#include "records/reinforcement/rodstock.h"
 
 #include <limits>
 #include <string>
@@ -12,7 +10,7 @@
 // The records' geometry as the drawing needs it: points in the file's own
 // coordinates (millimetres, y up), and SVG path data of them. Whatever the
 // plant reads in a member (which is a bar's length, in which sense an arc
-// runs) comes from the table in plant_conventions.h.
+// runs) comes from the table in plant/plant_meanings.h.
 namespace ItUnitechnik::Drawing {
 
 struct PointD {
@@ -58,22 +56,20 @@ std::string OutlinePath(const std::vector<GeoData>& pieces);
 // its whole circle.
 BoxD OutlineBox(const std::vector<GeoData>& pieces);
 
-// A bar as drawn: from its position, straight along its direction for its
-// length; a bar bent by a free form (kind '2') follows its segments instead.
-std::vector<PointD> BarPoints(const Rodstock& bar);
-
-// A girder's axis: from its position along its direction for its length.
-std::vector<PointD> GirderPoints(const BracedGirder& girder);
-
 // "M x y L x y ..." through the points.
 std::string PolylinePath(const std::vector<PointD>& points);
 
-// A girder drawn in plan: its two chords, kGirderDrawnWidth apart, and the
-// lattice between them, as two pieces of path data.
+// The drawn width of a braced girder in plan, in mm: no member of the
+// record carries it.
+inline constexpr double kGirderDrawnWidth = 80.0;
+
+// A girder drawn in plan from the start of its axis along its direction for
+// its length: its two chords, kGirderDrawnWidth apart, and the lattice
+// between them, as two pieces of path data.
 struct GirderPaths {
     std::string chords;
     std::string lattice;
 };
-GirderPaths GirderDrawing(const BracedGirder& girder);
+GirderPaths GirderDrawing(PointD start, double direction, double length);
 
 } // namespace ItUnitechnik::Drawing

@@ -1,7 +1,7 @@
 #include "svg/html_page.h"
 
+#include "plant/plant_meanings.h"
 #include "svg/markup_text.h"
-#include "svg/plant_conventions.h"
 #include "svg/svg_document.h"
 
 namespace ItUnitechnik::Drawing {
@@ -75,11 +75,13 @@ std::string BillTableHtml(const Bom::BillTable& table)
     return out + "</table>\n";
 }
 
-std::string ConventionsTable()
+std::string MeaningsTable()
 {
-    std::string out = "<table class=\"conventions\">\n<tr><th>Record</th><th>Member</th><th>Read as</th></tr>\n";
-    for (const ConventionRow& row : ConventionRows()) {
-        out += "<tr>" + Cell(row.record) + Cell(row.member) + Cell(row.meaning) + "</tr>\n";
+    std::string out = "<table class=\"meanings\">\n<tr><th>Record</th><th>Member</th><th>Read as</th><th>Meaning</th>"
+                      "<th>Unit</th></tr>\n";
+    for (const Plant::Row& row : Plant::Rows()) {
+        out += "<tr>" + Cell(row.record) + Cell(row.member) + Cell(row.name) + Cell(row.meaning) + Cell(row.unit) +
+               "</tr>\n";
     }
     return out + "</table>\n";
 }
@@ -115,8 +117,9 @@ std::string HtmlPage(const std::vector<Scene>& scenes, const std::vector<Bom::El
         for (const Bom::BillTable& table : Bom::BillTables(bill)) {
             out += BillTableHtml(table);
         }
+        out += "<p class=\"bill-totals\">" + Escaped(Bom::BillTotals(bill)) + "</p>\n";
     }
-    out += "<h2>How the plant reads the records</h2>\n" + ConventionsTable();
+    out += "<h2>How the plant reads the records</h2>\n" + MeaningsTable();
     return out + "</section>\n</body>\n</html>\n";
 }
 

@@ -1,7 +1,8 @@
 #include "svg/scene.h"
 
+#include "plant/plant_text.h"
+#include "plant/plant_view.h"
 #include "svg/markup_text.h"
-#include "svg/plant_conventions.h"
 #include "tree/tree_text.h"
 
 #include <algorithm>
@@ -76,29 +77,68 @@ BoxD RectBox(double x, double y, double width, double height)
     return box;
 }
 
-BoxD MatBox(const Steelmat& mat)
+BoxD MatBox(const Plant::Mat& mat)
 {
-    return RectBox(kPlant.matCornerX.Of(mat), kPlant.matCornerY.Of(mat), kPlant.matLength.Of(mat),
-                   kPlant.matWidth.Of(mat));
+    return RectBox(mat.x, mat.y, mat.length, mat.width);
 }
 
-BoxD GirderBox(const BracedGirder& girder)
+PointD Drawn(const Plant::PlanPoint& point)
+{
+    return {point.x, point.y};
+}
+
+// A set of more bars than this is drawn with its first ones: a count that
+// no plant would make must not hold the drawing up.
+constexpr std::int32_t kMostDrawn = 100000;
+
+std::int32_t DrawnCount(std::int32_t count)
+{
+    return std::clamp(count, 0, kMostDrawn);
+}
+
+// Each bar of the set in plan.
+template <class Visit>
+void ForEachBar(const Plant::BarSet& set, Visit visit)
+{
+    for (std::int32_t i = 0; i < DrawnCount(set.count); ++i) {
+        std::vector<PointD> points;
+        for (const Plant::PlanPoint& point : Plant::BarInPlan(set, i)) {
+            points.push_back(Drawn(point));
+        }
+        visit(points);
+    }
+}
+
+// Each girder of the group in plan: the start of its axis.
+template <class Visit>
+void ForEachGirder(const Plant::GirderGroup& group, Visit visit)
+{
+    for (std::int32_t i = 0; i < DrawnCount(group.count); ++i) {
+        visit(Drawn(Plant::GirderInPlan(group, i).front()));
+    }
+}
+
+BoxD GirderBox(const Plant::GirderGroup& group)
 {
     BoxD box;
-    const double direction = static_cast<double>(kPlant.girderRotation.Of(girder));
-    for (const PointD& point : GirderPoints(girder)) {
-        box.Widen(Along(point, direction + 90.0, kGirderDrawnWidth / 2.0));
-        box.Widen(Along(point, direction - 90.0, kGirderDrawnWidth / 2.0));
-    }
+    const double direction = static_cast<double>(group.rotation);
+    ForEachGirder(group, [&](PointD start) {
+        for (const PointD& point : {start, Along(start, direction, static_cast<double>(group.length))}) {
+            box.Widen(Along(point, direction + 90.0, kGirderDrawnWidth / 2.0));
+            box.Widen(Along(point, direction - 90.0, kGirderDrawnWidth / 2.0));
+        }
+    });
     return box;
 }
 
-BoxD BarBox(const Rodstock& bar)
+BoxD BarBox(const Plant::BarSet& set)
 {
     BoxD box;
-    for (const PointD& point : BarPoints(bar)) {
-        box.Widen(point);
-    }
+    ForEachBar(set, [&](const std::vector<PointD>& points) {
+        for (const PointD& point : points) {
+            box.Widen(point);
+        }
+    });
     return box;
 }
 
@@ -110,16 +150,17 @@ public:
     void Outline(const std::string&, const Contour& contour) { box.Widen(OutlineBox(contour.geoData)); }
     void Opening(const std::string&, const Cutout& cutout) { box.Widen(OutlineBox(cutout.geoData)); }
     void Part(const std::string&, const MountingPart& part) { box.Widen(OutlineBox(part.geoData)); }
-    void Bar(const std::string&, const Rodstock& bar) { box.Widen(BarBox(bar)); }
-    void Girder(const std::string&, const BracedGirder& girder) { box.Widen(GirderBox(girder)); }
-    void Mat(const std::string&, const Steelmat& mat)
+    void Bar(const std::string&, const Rodstock& bar) { box.Widen(BarBox(Plant::BarSetOf(bar))); }
+    void Girder(const std::string&, const BracedGirder& girder) { box.Widen(GirderBox(Plant::GirderGroupOf(girder))); }
+    void Mat(const std::string&, const Steelmat& record)
     {
+        const Plant::Mat mat = Plant::MatOf(record);
         box.Widen(MatBox(mat));
-        for (const Rodstock& bar : mat.rodstocks.bars) {
-            box.Widen(BarBox(bar));
+        for (const Plant::BarSet& set : mat.bars) {
+            box.Widen(BarBox(set));
         }
-        for (const BracedGirder& girder : mat.girders.girders) {
-            box.Widen(GirderBox(girder));
+        for (const Plant::GirderGroup& group : mat.girders) {
+            box.Widen(GirderBox(group));
         }
     }
     void Iron(const std::string&, const ExternalIron&) {}
@@ -170,9 +211,12 @@ public:
     void Part(const std::string& prefix, const MountingPart& part)
     {
         Item item = Make(prefix, "mountingpart", part.partNumber, FieldsOf(part));
-        const std::string name = Tree::Shown(part.partName);
+        const Plant::Part view = Plant::PartOf(part);
+        const std::string name = Plant::Trimmed(view.name);
         item.label = "Mounted part " + std::to_string(part.partNumber);
-        item.summary = Named(name, std::to_string(part.partWidth) + " x " + std::to_string(part.partHeight));
+        item.summary = Named(name, Plant::PartLine(view));
+        // On the drawing: its name and its height.
+        const std::string caption = Named(name, "height " + std::to_string(view.height) + " mm");
         const BoxD box = OutlineBox(part.geoData);
         item.shapes = Path("part", OutlinePath(part.geoData));
         if (!box.Empty()) {
@@ -181,35 +225,36 @@ public:
             // undoes the drawing's flip.
             item.shapes += "<text class=\"part-name\" x=\"" + Number((box.minX + box.maxX) / 2.0) + "\" y=\"" +
                            Number(-(box.maxY + 0.4 * scene_.textSize)) + "\" font-size=\"" +
-                           Number(0.8 * scene_.textSize) + "\" transform=\"scale(1 -1)\">" + Escaped(name) + "</text>";
+                           Number(0.8 * scene_.textSize) + "\" transform=\"scale(1 -1)\">" + Escaped(caption) +
+                           "</text>";
         }
         scene_.items.push_back(std::move(item));
     }
 
     void Bar(const std::string& prefix, const Rodstock& bar)
     {
-        scene_.items.push_back(BarItem(prefix, bar, "bar", "Bar "));
+        scene_.items.push_back(BarItem(prefix, bar, Plant::BarSetOf(bar), "bar", "Bar "));
     }
 
     void Girder(const std::string& prefix, const BracedGirder& girder)
     {
-        scene_.items.push_back(GirderItem(prefix, girder, "Girder "));
+        scene_.items.push_back(GirderItem(prefix, girder, Plant::GirderGroupOf(girder), "Girder "));
     }
 
-    void Mat(const std::string& prefix, const Steelmat& mat)
+    void Mat(const std::string& prefix, const Steelmat& record)
     {
-        Item item = Make(prefix, "steelmat", mat.number, FieldsOf(mat));
-        const std::string matLabel = "Mat " + std::to_string(mat.number);
+        const Plant::Mat mat = Plant::MatOf(record);
+        Item item = Make(prefix, "steelmat", record.number, FieldsOf(record));
+        const std::string matLabel = "Mat " + std::to_string(record.number);
         item.label = matLabel;
-        item.summary = Named(Tree::Shown(mat.name), std::to_string(kPlant.matLength.Of(mat)) + " x " +
-                                                        std::to_string(kPlant.matWidth.Of(mat)));
+        item.summary = Named(Plant::Trimmed(mat.type), Plant::MatLine(mat));
         item.shapes = Rect("mat", MatBox(mat));
         const std::string inner = item.id + "-";
-        for (const Rodstock& bar : mat.rodstocks.bars) {
-            item.parts.push_back(BarItem(inner, bar, "mat-bar", matLabel + ", bar "));
+        for (std::size_t i = 0; i < mat.bars.size(); ++i) {
+            item.parts.push_back(BarItem(inner, record.rodstocks.bars[i], mat.bars[i], "mat-bar", matLabel + ", bar "));
         }
-        for (const BracedGirder& girder : mat.girders.girders) {
-            item.parts.push_back(GirderItem(inner, girder, matLabel + ", girder "));
+        for (std::size_t i = 0; i < mat.girders.size(); ++i) {
+            item.parts.push_back(GirderItem(inner, record.girders.girders[i], mat.girders[i], matLabel + ", girder "));
         }
         scene_.items.push_back(std::move(item));
     }
@@ -218,8 +263,10 @@ public:
     {
         Item item = Make(prefix, "externaliron", iron.ironNumber, FieldsOf(iron));
         item.label = "External iron " + std::to_string(iron.ironNumber);
-        item.summary = Named(Tree::Shown(iron.ironText), std::to_string(kPlant.ironCount.Of(iron)) + " pieces, code " +
-                                                             std::to_string(kPlant.ironCode.Of(iron)));
+        const Plant::Iron view = Plant::IronOf(iron);
+        item.summary =
+            Named(Plant::Trimmed(view.name), std::to_string(view.count) + " pieces, " + Plant::Kilograms(view.weight) +
+                                                 " kg, code " + std::to_string(view.code));
         scene_.irons.push_back(std::move(item));
     }
 
@@ -248,32 +295,39 @@ private:
         return candidate;
     }
 
-    Item BarItem(const std::string& prefix, const Rodstock& bar, const char* shapeClass, const std::string& label)
+    // A set is one path: all its bars, each from its start along the bars'
+    // direction, leg by leg when bent.
+    Item BarItem(const std::string& prefix, const Rodstock& bar, const Plant::BarSet& set, const char* shapeClass,
+                 const std::string& label)
     {
         Item item = Make(prefix, "rodstock", bar.number, FieldsOf(bar));
         item.label = label + std::to_string(bar.number);
-        const std::vector<PointD> points = BarPoints(bar);
-        const std::string shape =
-            bar.bendingKind == L'2' ? "bent in " + std::to_string(points.size() - 1) + " segments" : "straight";
-        item.summary =
-            Named(Tree::Shown(bar.designation), "diameter " + std::to_string(kPlant.barDiameter.Of(bar)) + ", " +
-                                                    std::to_string(kPlant.barLength.Of(bar)) + " mm, " + shape);
+        item.summary = Plant::SetSummary(set);
+        std::string data;
+        ForEachBar(
+            set, [&](const std::vector<PointD>& points) { data += (data.empty() ? "" : " ") + PolylinePath(points); });
         // The diameter is the stroke's width, in the drawing's millimetres.
-        const double diameter = std::abs(static_cast<double>(kPlant.barDiameter.Of(bar)));
-        item.shapes = Path(shapeClass, PolylinePath(points), " stroke-width=\"" + Number(diameter) + "\"");
+        const double diameter = std::abs(static_cast<double>(set.diameter));
+        item.shapes = Path(shapeClass, data, " stroke-width=\"" + Number(diameter) + "\"");
         return item;
     }
 
-    Item GirderItem(const std::string& prefix, const BracedGirder& girder, const std::string& label)
+    Item GirderItem(const std::string& prefix, const BracedGirder& girder, const Plant::GirderGroup& group,
+                    const std::string& label)
     {
         Item item = Make(prefix, "bracedgirder", girder.number, FieldsOf(girder));
         item.label = label + std::to_string(girder.number);
-        item.summary =
-            Named(Tree::Shown(girder.designation), "type " + std::to_string(kPlant.girderType.Of(girder)) + ", " +
-                                                       std::to_string(kPlant.girderLength.Of(girder)) + " mm");
-        const GirderPaths paths = GirderDrawing(girder);
-        item.shapes = Path("girder-chord", paths.chords, " stroke-width=\"8\"") +
-                      Path("girder-lattice", paths.lattice, " stroke-width=\"5\"");
+        item.summary = Plant::GroupSummary(group);
+        std::string chords;
+        std::string lattice;
+        ForEachGirder(group, [&](PointD start) {
+            const GirderPaths paths =
+                GirderDrawing(start, static_cast<double>(group.rotation), static_cast<double>(group.length));
+            chords += (chords.empty() ? "" : " ") + paths.chords;
+            lattice += (lattice.empty() ? "" : " ") + paths.lattice;
+        });
+        item.shapes = Path("girder-chord", chords, " stroke-width=\"8\"") +
+                      Path("girder-lattice", lattice, " stroke-width=\"5\"");
         return item;
     }
 

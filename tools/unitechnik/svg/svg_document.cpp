@@ -1,7 +1,6 @@
 #include "svg/svg_document.h"
 
 #include "svg/markup_text.h"
-#include "svg/plant_conventions.h"
 #include "tree/tree_text.h"
 
 #include <algorithm>
@@ -14,7 +13,8 @@ constexpr double kLineHeight = 1.5; // of the text size
 
 std::string Title(const Item& item)
 {
-    return "<title>" + Escaped(item.id + ": " + item.label + "\n" + FieldLines(item.fields)) + "</title>";
+    return "<title>" + Escaped(item.id + ": " + item.label + "\n" + item.summary + "\n" + FieldLines(item.fields)) +
+           "</title>";
 }
 
 void AddItem(std::string& out, const Item& item)

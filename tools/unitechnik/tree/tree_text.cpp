@@ -4,6 +4,8 @@
 #include "geometry/circle.h"
 #include "geometry/line_segment.h"
 #include "geometry/polygon.h"
+#include "plant/plant_text.h"
+#include "plant/plant_view.h"
 #include "tree/tree_json.h"
 
 #include <charconv>
@@ -40,11 +42,6 @@ std::string At(std::int32_t x, std::int32_t y)
     return "(" + std::to_string(x) + ", " + std::to_string(y) + ")";
 }
 
-std::string At(std::int32_t x, std::int32_t y, std::int32_t z)
-{
-    return "(" + std::to_string(x) + ", " + std::to_string(y) + ", " + std::to_string(z) + ")";
-}
-
 std::string Counted(std::size_t count, const char* one, const char* many)
 {
     return std::to_string(count) + " " + (count == 1 ? one : many);
@@ -74,7 +71,8 @@ private:
             element.version < 600 ? std::to_string(element.elementNumber) : Shown(element.elementNumberText);
         Line(depth, "SLABDATE version " + std::to_string(element.version) + ", element " + number + " " +
                         Quoted(element.elementText30) + ", " + std::to_string(element.extentX) + " x " +
-                        std::to_string(element.extentY) + ", thickness " + std::to_string(element.thickness) + ", " +
+                        std::to_string(element.extentY) + ", thickness " + std::to_string(element.thickness) +
+                        ", area " + Number(Plant::kElement.area(element)) + " m\u00b2, " +
                         Counted(element.concreteLayers.size(), "concrete layer", "concrete layers"));
         if (!element.layers.empty()) {
             for (const Layer& layer : element.layers) {
@@ -151,7 +149,7 @@ private:
                         Counted(data.cutouts.size(), "opening", "openings"));
         for (const Cutout& cutout : data.cutouts) {
             Line(depth + 1, "cutout " + std::to_string(cutout.cutoutNumber) + " " + Quoted(cutout.cutoutName) +
-                                ", value " + Number(cutout.cutoutValue) + ", " +
+                                ", area " + Number(Plant::kOpening.area(cutout)) + " m\u00b2, " +
                                 Counted(cutout.geoData.size(), "piece", "pieces"));
             Pieces(depth + 2, cutout.geoData);
         }
@@ -162,46 +160,40 @@ private:
         Line(depth,
              "MOUNPART version " + std::to_string(data.version) + ", " + Counted(data.parts.size(), "part", "parts"));
         for (const MountingPart& part : data.parts) {
-            Line(depth + 1, "part " + std::to_string(part.partNumber) + " " + Quoted(part.partName) + ", " +
-                                std::to_string(part.partWidth) + " x " + std::to_string(part.partHeight) + ", values " +
-                                std::to_string(part.setValue1) + " and " + std::to_string(part.setValue2) + ", " +
+            const Plant::Part view = Plant::PartOf(part);
+            Line(depth + 1, "part " + std::to_string(part.partNumber) + " " + Quoted(view.name) + ": " +
+                                Plant::PartLine(view) + ", footprint " + std::to_string(part.partWidth) + " x " +
+                                std::to_string(part.partHeight) + ", " +
                                 Counted(part.geoData.size(), "piece", "pieces"));
             Pieces(depth + 2, part.geoData);
         }
     }
 
-    void Bars(int depth, const RodstockData& data)
+    // A mat's bars and girders stand where the plant puts them: its origin
+    // added.
+    void Bars(int depth, const RodstockData& data, Plant::Origin origin = {})
     {
         Line(depth,
              "RODSTOCK version " + std::to_string(data.version) + ", " + Counted(data.bars.size(), "bar", "bars"));
         for (const Rodstock& bar : data.bars) {
-            std::string text = "bar " + std::to_string(bar.number) + " " + Quoted(bar.designation) + ", sizes " +
-                               std::to_string(bar.firstSize) + ", " + std::to_string(bar.secondSize) + ", " +
-                               std::to_string(bar.thirdSize) + ", at " +
-                               At(bar.position.x, bar.position.y, bar.positionZ) + ", rotation " +
-                               std::to_string(bar.rotation);
-            if (bar.bendingKind == L'2') {
-                std::size_t segments = 0;
-                for (const BendingFormPart& part : bar.freeForm.parts) {
-                    segments += part.segments.size();
-                }
-                text += ", bent in " + Counted(segments, "segment", "segments");
-            } else if (bar.bendingKind == L'1') {
+            const Plant::BarSet set = Plant::BarSetOf(bar, origin);
+            std::string text =
+                "bar " + std::to_string(bar.number) + " " + Quoted(set.grade) + ": " + Plant::SetLine(set);
+            if (bar.bendingKind == L'1') {
                 text += ", bent in two forms";
             }
             Line(depth + 1, text);
         }
     }
 
-    void Girders(int depth, const BracedGirderData& data)
+    void Girders(int depth, const BracedGirderData& data, Plant::Origin origin = {})
     {
         Line(depth, "BRGIRDER version " + std::to_string(data.version) + ", " +
                         Counted(data.girders.size(), "girder", "girders"));
         for (const BracedGirder& girder : data.girders) {
-            Line(depth + 1, "girder " + std::to_string(girder.number) + " " + Quoted(girder.designation) + ", type " +
-                                std::to_string(girder.typeNumber) + ", length " + std::to_string(girder.firstSize) +
-                                ", at " + At(girder.position.x, girder.position.y, girder.positionZ) + ", rotation " +
-                                std::to_string(girder.rotation));
+            const Plant::GirderGroup group = Plant::GirderGroupOf(girder, origin);
+            Line(depth + 1,
+                 "girder " + std::to_string(girder.number) + " " + Quoted(group.type) + ": " + Plant::GroupLine(group));
         }
     }
 
@@ -210,9 +202,10 @@ private:
         Line(depth,
              "EXTIRON_ version " + std::to_string(data.version) + ", " + Counted(data.irons.size(), "iron", "irons"));
         for (const ExternalIron& iron : data.irons) {
-            Line(depth + 1, "iron " + std::to_string(iron.ironNumber) + " " + Quoted(iron.ironText) + ", code " +
-                                std::to_string(iron.ironCode) + ", count " + std::to_string(iron.ironCount) +
-                                ", value " + Number(iron.ironValue));
+            const Plant::Iron view = Plant::IronOf(iron);
+            Line(depth + 1, "iron " + std::to_string(iron.ironNumber) + " " + Quoted(view.name) + ": " +
+                                std::to_string(view.count) + " pieces, " + Number(view.weight) + " kg, code " +
+                                std::to_string(view.code));
         }
     }
 
@@ -221,13 +214,13 @@ private:
         Line(depth,
              "REFORCEM version " + std::to_string(block.version) + ", " + Counted(block.mats.size(), "mat", "mats"));
         for (const Steelmat& mat : block.mats) {
+            const Plant::Mat view = Plant::MatOf(mat);
             Line(depth + 1, "STEELMAT version " + std::to_string(mat.version) + ", mat " + std::to_string(mat.number) +
-                                " " + Quoted(mat.name) + ", " + std::to_string(mat.firstDimension) + " x " +
-                                std::to_string(mat.secondDimension) + ", at " +
-                                At(mat.positionX, mat.positionY, mat.positionZ) + ", kind " +
+                                " " + Quoted(view.type) + ": " + Plant::MatLine(view) + ", kind " +
                                 std::to_string(mat.matKind));
-            Bars(depth + 2, mat.rodstocks);
-            Girders(depth + 2, mat.girders);
+            const Plant::Origin origin{view.x, view.y};
+            Bars(depth + 2, mat.rodstocks, origin);
+            Girders(depth + 2, mat.girders, origin);
         }
         if (block.hasExternalIrons && block.version > 5) {
             Irons(depth + 1, block.externalIrons);
