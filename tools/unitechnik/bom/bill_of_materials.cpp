@@ -372,6 +372,11 @@ std::string BillCsv(const std::vector<ElementBill>& bills)
 
 std::string BillJson(const std::vector<ElementBill>& bills)
 {
+    return BillJsonValue(bills).dump(2) + "\n";
+}
+
+nlohmann::ordered_json BillJsonValue(const std::vector<ElementBill>& bills)
+{
     using nlohmann::ordered_json;
     ordered_json elements = ordered_json::array();
     for (const ElementBill& bill : bills) {
@@ -418,7 +423,7 @@ std::string BillJson(const std::vector<ElementBill>& bills)
     out["elements"] = std::move(elements);
     out["steelWeight"] = FileSteelWeight(bills);
     out["concreteMass"] = FileConcreteMass(bills);
-    return out.dump(2) + "\n";
+    return out;
 }
 
 } // namespace ItUnitechnik::Bom

@@ -2,6 +2,8 @@
 
 #include "records/order/order.h"
 
+#include <nlohmann/json.hpp>
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -100,5 +102,8 @@ std::string BillCsv(const std::vector<ElementBill>& bills);
 // {"elements": [{"order", "element", "text", "bars": [...], ...}],
 //  "steelWeight", "concreteMass"}
 std::string BillJson(const std::vector<ElementBill>& bills);
+// The same as a JSON value, for a reader that puts it into a document of its
+// own.
+nlohmann::ordered_json BillJsonValue(const std::vector<ElementBill>& bills);
 
 } // namespace ItUnitechnik::Bom
