@@ -82,7 +82,11 @@ foreach(path
         lib/python3/dist-packages/unitechnik/_version.py
         share/itunitechnik/dotnet/NativeMethods.cs
         share/itunitechnik/dotnet/Document.cs
-        share/doc/itunitechnik/README.md)
+        share/doc/itunitechnik/README.md
+        share/doc/itunitechnik/docs/build.md
+        bin/unitechnik
+        share/man/man1/unitechnik.1
+        share/bash-completion/completions/unitechnik)
     if(NOT EXISTS ${prefix}/${path})
         message(FATAL_ERROR "not installed: ${path}")
     endif()
