@@ -1,29 +1,9 @@
-// unitechnik: the registry of sub-commands. A sub-command is a file of its
-// own; adding one is adding that file and its line here.
+// unitechnik: the command-line tool. Its sub-commands stand in commands.cpp.
 #include "command_line.h"
-
-namespace ItUnitechnik::Tool {
-std::unique_ptr<SubCommand> MakeBomCommand();
-std::unique_ptr<SubCommand> MakeBuildCommand();
-std::unique_ptr<SubCommand> MakeCheckCommand();
-std::unique_ptr<SubCommand> MakeConvertCommand();
-std::unique_ptr<SubCommand> MakeDiffCommand();
-std::unique_ptr<SubCommand> MakeDumpCommand();
-std::unique_ptr<SubCommand> MakeRenderCommand();
-} // namespace ItUnitechnik::Tool
+#include "commands.h"
 
 int main(int argc, char** argv)
 {
     using namespace ItUnitechnik::Tool;
-    return RunCommandLine(
-        {
-            MakeBuildCommand,
-            MakeCheckCommand,
-            MakeConvertCommand,
-            MakeDiffCommand,
-            MakeDumpCommand,
-            MakeRenderCommand,
-            MakeBomCommand,
-        },
-        argc, argv);
+    return RunCommandLine(SubCommands(), argc, argv);
 }
