@@ -41,10 +41,16 @@ endfunction()
 # file that is not there.
 unitechnik_case(check.script.clean ${UNITECHNIK_CHECK_INPUTS} "check|clean.json" 0)
 foreach(code IN ITEMS text-cut number-too-wide unwritable-character negative-coordinate count-beyond-data
-                      no-element-content)
+                      no-element-content bar-without-size bars-stacked outside-element outside-mat)
     unitechnik_case(check.script.${code} ${UNITECHNIK_CHECK_INPUTS} "check|${code}.json" 1
         OUT check/${code}.txt)
 endforeach()
+# Bar sets, a bent bar, one at 45 degrees that ends within half a millimetre
+# of the edge, a girder group, a part and a mat with its wires, all in place.
+unitechnik_case(check.script.reinforced-clean ${UNITECHNIK_CHECK_INPUTS} "check|reinforced-clean.json" 0)
+# A finding of a whole record names the record, and no member or key.
+unitechnik_case(check.script.whole_record_json ${UNITECHNIK_CHECK_INPUTS} "check|outside-mat.json|--json" 1
+    OUT check/outside-mat.json)
 unitechnik_case(check.script.json ${UNITECHNIK_CHECK_INPUTS} "check|text-cut.json|--json" 1
     OUT check/text-cut.json)
 unitechnik_case(check.several ${UNITECHNIK_CHECK_INPUTS}
@@ -58,10 +64,11 @@ unitechnik_case(check.unreadable ${UNITECHNIK_CHECK_INPUTS} "check|missing.uni" 
 # from them for each code found only in files.
 unitechnik_case(check.file.clean ${UNITECHNIK_GOLDEN} "check|slab/slab-600.txt|slab/slab-502.txt" 0)
 unitechnik_case(check.file.number-too-wide ${UNITECHNIK_GOLDEN}
-    "check|reinforced/reinforced-600.txt|--ignore|UT104|--ignore|no-element-content" 1
+    "check|reinforced/reinforced-600.txt|--ignore|UT104|--ignore|no-element-content|--ignore|UT401|--ignore|UT404" 1
     OUT check/file-number-too-wide.txt)
 unitechnik_case(check.file.negative-coordinate ${UNITECHNIK_GOLDEN}
-    "check|reinforced/reinforced-600.txt|--ignore|UT102|--ignore|UT106" 1 OUT check/file-negative-coordinate.txt)
+    "check|reinforced/reinforced-600.txt|--ignore|UT102|--ignore|UT106|--ignore|UT401|--ignore|UT404" 1
+    OUT check/file-negative-coordinate.txt)
 unitechnik_case(check.file.no-element-content ${UNITECHNIK_GOLDEN} "check|versions/v600.txt" 1
     OUT check/file-no-element-content.txt)
 unitechnik_case(check.file.json ${UNITECHNIK_GOLDEN} "check|reinforced/reinforced-600.txt|--json" 1
@@ -69,6 +76,25 @@ unitechnik_case(check.file.json ${UNITECHNIK_GOLDEN} "check|reinforced/reinforce
 foreach(code IN ITEMS unreadable-line line-end cut-off trailing-data)
     unitechnik_case(check.file.${code} ${UNITECHNIK_CHECK_INPUTS} "check|${code}.txt" 1 OUT check/${code}.txt)
 endforeach()
+# A file of other hands: every line ended by a bare line feed is one finding
+# with the count, and a last line without its end reads whole and is found.
+foreach(variant IN ITEMS bare-line-feeds no-last-line-end)
+    unitechnik_case(check.file.${variant} ${UNITECHNIK_CHECK_INPUTS} "check|${variant}.txt|--ignore|UT106" 1
+        OUT check/${variant}.txt)
+endforeach()
+# Files that build writes from the scripts above: a finding of a whole
+# record stands at the record's first line.
+set(UNITECHNIK_CHECK_BUILT ${CMAKE_CURRENT_BINARY_DIR}/check)
+file(MAKE_DIRECTORY ${UNITECHNIK_CHECK_BUILT})
+foreach(name IN ITEMS reinforced-clean outside-element)
+    unitechnik_case(check.build.${name} ${UNITECHNIK_CHECK_BUILT}
+        "build|${UNITECHNIK_CHECK_INPUTS}/${name}.json|-o|${name}.uni|--trace|${name}.trace.jsonl" 0
+        SETUP unitechnik_check_${name})
+endforeach()
+unitechnik_case(check.file.reinforced-clean ${UNITECHNIK_CHECK_BUILT} "check|reinforced-clean.uni" 0
+    REQUIRES unitechnik_check_reinforced-clean)
+unitechnik_case(check.file.outside-element ${UNITECHNIK_CHECK_BUILT} "check|outside-element.uni" 1
+    OUT check/file-outside-element.txt REQUIRES unitechnik_check_outside-element)
 
 # diff: a file with itself, and one change of each kind.
 set(slab600 functional/expected/slab/slab-600.txt)

@@ -23,6 +23,11 @@ public:
                "JSON";
     }
 
+    CommandExample Example() const override
+    {
+        return {"unitechnik bom slab.uni --csv", "prints the bill of materials of the example slab as CSV"};
+    }
+
     void AddOptions(CLI::App& app) override
     {
         app.add_option("FILE", input_, "the Unitechnik file")->required();

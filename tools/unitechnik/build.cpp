@@ -73,6 +73,12 @@ public:
         return "Runs a JSON call script through the library's exports and writes the files its endDocument calls name";
     }
 
+    CommandExample Example() const override
+    {
+        return {"unitechnik build examples/slab.json -o slab.uni",
+                "runs the example call script and writes the slab to slab.uni"};
+    }
+
     void AddOptions(CLI::App& app) override
     {
         app.add_option("SCRIPT", scriptPath_, "The call script: {\"calls\": [{\"call\": \"startOrder\", ...}, ...]}")

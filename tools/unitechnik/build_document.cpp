@@ -23,12 +23,11 @@ void BuildDocument(const nlohmann::json& input, const std::string& path)
     if (path.empty()) {
         throw BadInput("a dumped document is written with -o FILE");
     }
-    if (!CanWriteFile(path)) {
-        throw FileError("cannot write \"" + path + "\"");
-    }
-    // The library's own writer, the alternate streams of the orders included.
-    document.Save(Tree::WideFromUtf8(path));
-    if (!FileIsThere(path)) {
+    // The library's own writer, the alternate streams of the orders included,
+    // into a temporary that takes the file's place when it is whole.
+    const bool wrote = WriteWholeFile(
+        path, [&](const std::string& file) { return document.Save(Tree::WideFromUtf8(file)) && FileIsThere(file); });
+    if (!wrote) {
         throw FileError("cannot write \"" + path + "\"");
     }
 }

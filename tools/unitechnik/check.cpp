@@ -38,6 +38,11 @@ public:
                "found, 1 with findings, 2 for a bad command line or script, 3 for a file that cannot be read";
     }
 
+    CommandExample Example() const override
+    {
+        return {"unitechnik check examples/slab.json slab.uni", "checks the example call script and the file it wrote"};
+    }
+
     void AddOptions(CLI::App& app) override
     {
         app.add_option("INPUT", inputs_, "Call scripts (JSON) and Unitechnik files")->required();

@@ -33,6 +33,12 @@ public:
                "exit 0 when nothing was cut, 1 when something was or the file does not read to its end";
     }
 
+    CommandExample Example() const override
+    {
+        return {"unitechnik convert slab.uni --version 502 -o slab-502.uni",
+                "writes slab.uni again at version 502 and tells what that cuts"};
+    }
+
     void AddOptions(CLI::App& app) override
     {
         app.add_option("FILE", input_, "The Unitechnik file")->required();
@@ -96,14 +102,15 @@ public:
             }
         }
 
-        if (!CanWriteFile(output_)) {
-            throw FileError("cannot write \"" + output_ + "\"");
-        }
+        // A temporary beside OUT takes its place when it is whole: a plant
+        // that watches the folder never reads half a file.
         Document converted;
         converted.orders = std::move(document.orders);
-        converted.Save(output);
+        const bool wrote = WriteWholeFile(output_, [&converted](const std::string& file) {
+            return converted.Save(Tree::WideFromUtf8(file)) && FileIsThere(file);
+        });
         converted.orders.clear();
-        if (!FileIsThere(output_)) {
+        if (!wrote) {
             throw FileError("cannot write \"" + output_ + "\"");
         }
         return Finish(findings, ignored) ? kFailed : kDone;

@@ -26,6 +26,12 @@ public:
         return "Compares two Unitechnik files record by record; exit 0 when they hold the same, 1 when not";
     }
 
+    CommandExample Example() const override
+    {
+        return {"unitechnik diff slab.uni tests/functional/expected/slab/slab-600.txt",
+                "compares the example slab with another slab, record by record"};
+    }
+
     void AddOptions(CLI::App& app) override
     {
         app.add_option("A", fileA_, "The first Unitechnik file")->required();

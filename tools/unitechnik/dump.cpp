@@ -21,6 +21,11 @@ public:
         return "Reads a Unitechnik file and prints its record tree, as JSON (the default) or as an outline";
     }
 
+    CommandExample Example() const override
+    {
+        return {"unitechnik dump --tree slab.uni", "prints the records of slab.uni, one line each"};
+    }
+
     void AddOptions(CLI::App& app) override
     {
         app.add_option("FILE", input_, "the Unitechnik file")->required();

@@ -12,8 +12,11 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+#include <cctype>
 #include <cstdio>
 #include <iostream>
+#include <string>
 
 namespace ItUnitechnik::Tool {
 
@@ -26,6 +29,12 @@ public:
     {
         return "Draws an element of a Unitechnik file as SVG (y up, millimetres), or as an HTML page with its "
                "records and bill of materials";
+    }
+
+    CommandExample Example() const override
+    {
+        return {"unitechnik render slab.uni --html -o slab.html",
+                "draws the example slab on a page with its records and bill of materials"};
     }
 
     void AddOptions(CLI::App& app) override
@@ -45,6 +54,7 @@ public:
 
     int Run() override
     {
+        const bool page = WritesPage();
         const TolerantDocument document = ReadDocumentFile(input_);
         const std::vector<Drawing::ElementPlace> places = Drawing::ElementPlaces(document.orders);
 
@@ -69,16 +79,12 @@ public:
 
         Drawing::SvgOptions options;
         options.captions = all_;
-        const std::string text = html_ ? Drawing::HtmlPage(scenes, bills) : Drawing::SvgDocument(scenes, options);
+        const std::string text = page ? Drawing::HtmlPage(scenes, bills) : Drawing::SvgDocument(scenes, options);
         if (output_.empty()) {
             std::fwrite(text.data(), 1, text.size(), stdout);
             std::fflush(stdout);
-        } else {
-            File file = OpenFile(output_, "wb");
-            if (!file || std::fwrite(text.data(), 1, text.size(), file.get()) != text.size() ||
-                std::fflush(file.get()) != 0) {
-                throw FileError("cannot write \"" + output_ + "\"");
-            }
+        } else if (!WriteWholeFile(output_, [&text](const std::string& file) { return WriteBytes(file, text); })) {
+            throw FileError("cannot write \"" + output_ + "\"");
         }
         if (!document.Complete()) {
             std::cerr << StopMessage(input_, *document.stop) << '\n';
@@ -88,6 +94,42 @@ public:
     }
 
 private:
+    // -o NAME.html (or .htm) writes the page and -o NAME.svg the drawing,
+    // whatever --html says; --html with -o NAME.svg asks for both and is
+    // refused. Any other name, and standard output, follow --html.
+    bool WritesPage() const
+    {
+        const auto endsIn = [this](const std::string& ending) {
+            if (output_.size() < ending.size()) {
+                return false;
+            }
+            const std::string tail = output_.substr(output_.size() - ending.size());
+            return std::equal(tail.begin(), tail.end(), ending.begin(),
+                              [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == b; });
+        };
+        if (endsIn(".html") || endsIn(".htm")) {
+            return true;
+        }
+        if (endsIn(".svg")) {
+            if (html_) {
+                throw BadInput("--html writes an HTML page, but \"" + output_ +
+                               "\" names an SVG drawing: leave out --html, or name the page .html");
+            }
+            return false;
+        }
+        return html_;
+    }
+
+    static bool WriteBytes(const std::string& path, const std::string& bytes)
+    {
+        File file = OpenFile(path, "wb");
+        if (!file || std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) {
+            return false;
+        }
+        // The last bytes reach the file when it is closed: that may fail too.
+        return std::fclose(file.release()) == 0;
+    }
+
     std::string input_;
     std::string output_;
     std::size_t order_ = 1;

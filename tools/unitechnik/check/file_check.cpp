@@ -68,9 +68,21 @@ std::vector<Finding> CheckFile(const std::string& path, const std::string& bytes
     TolerantDocument document = ReadTolerantly(bytes);
     std::vector<Finding> findings;
 
-    for (const Place& place : BareLineFeeds(bytes, document.bareLineEnds)) {
-        findings.push_back(At(path, place, Code::lineEnd,
-                              "line " + std::to_string(place.line) + " ends in a line feed without a carriage return"));
+    // Once a file, at the first such line, with the count: a file written
+    // where lines end in a bare line feed ends all of them so.
+    const std::vector<Place> bare = BareLineFeeds(bytes, document.bareLineEnds);
+    if (!bare.empty()) {
+        findings.push_back(At(path, bare.front(), Code::lineEnd,
+                              bare.size() == 1 ? std::string("1 line ends in a bare line feed")
+                                               : std::to_string(bare.size()) + " lines end in a bare line feed"));
+    }
+    if (document.Complete() && document.departures.count(Departure::noFinalLineEnd) != 0) {
+        // Where the last line's end is missing.
+        const std::size_t lastFeed = bytes.rfind('\n');
+        const std::size_t lastLine = lastFeed == std::string::npos ? 0 : lastFeed + 1;
+        const Place end{static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n')) + 1,
+                        bytes.size() - lastLine + 1};
+        findings.push_back(At(path, end, Code::lineEnd, "the last line has no line end"));
     }
 
     std::optional<Place> stop;
@@ -106,7 +118,9 @@ std::vector<Finding> CheckFile(const std::string& path, const std::string& bytes
         }
         Finding found = At(path, *place, finding.code, finding.message);
         found.details["record"] = finding.path;
-        found.details["member"] = finding.name;
+        if (!finding.whole) {
+            found.details["member"] = finding.name;
+        }
         findings.push_back(std::move(found));
     }
 

@@ -14,7 +14,7 @@ struct CodeInfo {
 };
 
 // Codes are never renumbered: a new one comes after the last of its hundred.
-constexpr std::array<CodeInfo, 11> kCodes{{
+constexpr std::array<CodeInfo, 15> kCodes{{
     {Code::textCut, "UT101", "text-cut"},
     {Code::numberTooWide, "UT102", "number-too-wide"},
     {Code::unwritableCharacter, "UT103", "unwritable-character"},
@@ -26,6 +26,10 @@ constexpr std::array<CodeInfo, 11> kCodes{{
     {Code::cutOff, "UT203", "cut-off"},
     {Code::trailingData, "UT204", "trailing-data"},
     {Code::recordLeftOut, "UT301", "record-left-out"},
+    {Code::barWithoutSize, "UT401", "bar-without-size"},
+    {Code::barsStacked, "UT402", "bars-stacked"},
+    {Code::outsideElement, "UT403", "outside-element"},
+    {Code::outsideMat, "UT404", "outside-mat"},
 }};
 
 const CodeInfo& Info(Code code)

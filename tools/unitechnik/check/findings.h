@@ -26,6 +26,10 @@ enum class Code {
     cutOff,              // UT203
     trailingData,        // UT204
     recordLeftOut,       // UT301
+    barWithoutSize,      // UT401
+    barsStacked,         // UT402
+    outsideElement,      // UT403
+    outsideMat,          // UT404
 };
 
 // "UT101" and "text-cut".

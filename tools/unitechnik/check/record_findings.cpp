@@ -4,10 +4,15 @@
 #include "geometry/circle.h"
 #include "geometry/line_segment.h"
 #include "geometry/polygon.h"
+#include "plant/plant_view.h"
 #include "records/element/element_part.h"
 #include "tree/tree_json.h"
 
+#include <cmath>
+#include <cstdint>
 #include <cstdio>
+#include <cstdlib>
+#include <limits>
 #include <set>
 
 namespace ItUnitechnik::Tool::Check {
@@ -112,6 +117,151 @@ std::vector<RecordFinding> FieldFindings(const WrittenDocument& written, const T
 
 namespace {
 
+using Plant::PlanPoint;
+
+// A box in the element's millimetres; empty until widened.
+struct PlanBox {
+    double minX = std::numeric_limits<double>::infinity();
+    double minY = std::numeric_limits<double>::infinity();
+    double maxX = -std::numeric_limits<double>::infinity();
+    double maxY = -std::numeric_limits<double>::infinity();
+
+    bool Empty() const { return minX > maxX; }
+
+    void Widen(PlanPoint point)
+    {
+        minX = std::min(minX, point.x);
+        minY = std::min(minY, point.y);
+        maxX = std::max(maxX, point.x);
+        maxY = std::max(maxY, point.y);
+    }
+};
+
+// The file holds whole millimetres, and a bar turned by other than a quarter
+// ends between two of them: half a millimetre beyond a box is still in it.
+constexpr double kTolerance = 0.5;
+
+bool Beyond(PlanPoint point, const PlanBox& box)
+{
+    return point.x < box.minX - kTolerance || point.x > box.maxX + kTolerance || point.y < box.minY - kTolerance ||
+           point.y > box.maxY + kTolerance;
+}
+
+PlanPoint At(const Point2d& point)
+{
+    return {static_cast<double>(point.x), static_cast<double>(point.y)};
+}
+
+// The box of one piece of an outline: an arc by the part of its circle it
+// runs through, not by the whole circle.
+void WidenByPiece(PlanBox& box, const Curve& curve)
+{
+    if (const auto* circle = dynamic_cast<const Circle*>(&curve)) {
+        const PlanPoint centre = At(circle->centre);
+        const double radius = std::abs(static_cast<double>(circle->radius));
+        const auto on = [&](std::int64_t degrees) {
+            const PlanPoint along = Plant::Direction(static_cast<double>(degrees));
+            box.Widen({centre.x + radius * along.x, centre.y + radius * along.y});
+        };
+        std::int64_t start = 0;
+        std::int64_t sweep = 360;
+        if (const auto* arc = dynamic_cast<const Arc*>(circle)) {
+            start = Plant::kArc.start(*arc);
+            sweep = ((static_cast<std::int64_t>(Plant::kArc.end(*arc)) - start) % 360 + 360) % 360;
+            if (sweep == 0) {
+                sweep = 360; // an end equal to the start: the whole circle
+            }
+        }
+        on(start);
+        on(start + sweep);
+        // Counter-clockwise from the start: each quarter of the circle it passes.
+        for (std::int64_t quarter = 0; quarter < 360; quarter += 90) {
+            if (((quarter - start) % 360 + 360) % 360 < sweep) {
+                on(quarter);
+            }
+        }
+    } else if (const auto* line = dynamic_cast<const LineSegment*>(&curve)) {
+        box.Widen(At(line->start));
+        box.Widen(At(line->end));
+    } else if (const auto* polygon = dynamic_cast<const Polygon*>(&curve)) {
+        for (const Point2d& point : polygon->points) {
+            box.Widen(At(point));
+        }
+    }
+}
+
+void WidenByOutline(PlanBox& box, const std::vector<GeoData>& pieces)
+{
+    for (const GeoData& piece : pieces) {
+        if (piece.curve != nullptr) {
+            WidenByPiece(box, *piece.curve);
+        }
+    }
+}
+
+// Millimetres as the file holds them, or to a tenth between them.
+std::string Mm(double value)
+{
+    const double whole = std::round(value);
+    char buffer[32];
+    if (std::abs(value - whole) < 0.05) {
+        std::snprintf(buffer, sizeof buffer, "%.0f", whole == 0.0 ? 0.0 : whole);
+    } else {
+        std::snprintf(buffer, sizeof buffer, "%.1f", value);
+    }
+    return buffer;
+}
+
+std::string PointText(PlanPoint point)
+{
+    return "(" + Mm(point.x) + ", " + Mm(point.y) + ")";
+}
+
+std::string BoxText(const PlanBox& box)
+{
+    return PointText({box.minX, box.minY}) + " to " + PointText({box.maxX, box.maxY});
+}
+
+// A member of a set or group that reaches beyond a box, and the first of
+// its points that does.
+struct Reaching {
+    std::int32_t member = 0; // from 0
+    PlanPoint point;
+};
+
+std::optional<PlanPoint> FirstBeyond(const std::vector<PlanPoint>& points, const PlanBox& box)
+{
+    for (const PlanPoint& point : points) {
+        if (Beyond(point, box)) {
+            return point;
+        }
+    }
+    return std::nullopt;
+}
+
+// The first of `count` members that reaches beyond the box; `shape` gives
+// member i in plan. The members are one shape moved i x pitch along a line,
+// so those in the box are one run of neighbours: when the first member is
+// in it, the run ends before the first one outside, which halving finds
+// without drawing every member.
+template <class Shape>
+std::optional<Reaching> FirstReaching(std::int32_t count, const Shape& shape, const PlanBox& box)
+{
+    if (const std::optional<PlanPoint> point = FirstBeyond(shape(0), box)) {
+        return Reaching{0, *point};
+    }
+    if (!FirstBeyond(shape(count - 1), box)) {
+        return std::nullopt;
+    }
+    std::int32_t inside = 0;
+    std::int32_t outside = count - 1;
+    while (outside - inside > 1) {
+        const std::int32_t middle = inside + (outside - inside) / 2;
+        (FirstBeyond(shape(middle), box) ? outside : inside) = middle;
+    }
+    return Reaching{outside, *FirstBeyond(shape(outside), box)};
+}
+
 class Walk {
 public:
     Walk(const Tree::RecordIndex& index, std::vector<RecordFinding>& out) : index_(index), out_(out) {}
@@ -137,6 +287,21 @@ private:
         if (!contour) {
             Add(Code::noElementContent, "SLABDATE", &element, "contourData.contours", "0");
         }
+
+        // The element's extents: the box of its contours. Without one there
+        // is nothing to be beyond; UT106 tells that already.
+        PlanBox box;
+        for (const Contour& each : element.contourData.contours) {
+            WidenByOutline(box, each.geoData);
+        }
+        for (const Layer& layer : element.layers) {
+            for (const Lot& lot : layer.lots) {
+                for (const Contour& each : lot.contourData.contours) {
+                    WidenByOutline(box, each.geoData);
+                }
+            }
+        }
+        extents_ = box.Empty() ? std::nullopt : std::optional<PlanBox>(box);
 
         // What the element writes, and nothing else: its layers alone when
         // it has any; below 600 a block of mats instead of loose bars and
@@ -187,31 +352,126 @@ private:
                 Coordinate("MOUNPART", &part, "position.x", part.position.x, false);
                 Coordinate("MOUNPART", &part, "position.y", part.position.y, false);
             }
+            PlanBox footprint;
+            WidenByOutline(footprint, part.geoData);
+            if (extents_ && !footprint.Empty() &&
+                (Beyond({footprint.minX, footprint.minY}, *extents_) ||
+                 Beyond({footprint.maxX, footprint.maxY}, *extents_))) {
+                Whole(Code::outsideElement, "MOUNPART", &part, Plant::kPart.name.row.member,
+                      Tree::ShownValue(Plant::kPart.name(part)) + ": its footprint " + BoxText(footprint) +
+                          " reaches beyond the element's extents " + BoxText(*extents_));
+            }
         }
     }
 
-    void Bars(RodstockData& data)
+    // The element's own bars stand from (0, 0), a mat's from the mat's
+    // origin; `mat` is the mat's area in the element.
+    void Bars(RodstockData& data, Plant::Origin origin = {}, const PlanBox* mat = nullptr)
     {
         for (Rodstock& bar : data.bars) {
             Coordinate("RODSTOCK", &bar, "position.x", bar.position.x, false);
             Coordinate("RODSTOCK", &bar, "position.y", bar.position.y, false);
+            const Plant::BarSet set = Plant::BarSetOf(bar, origin);
+            Size(bar, set);
+            if (set.count <= 0) {
+                continue;
+            }
+            const auto shape = [&set](std::int32_t i) { return Plant::BarInPlan(set, i); };
+            if (extents_) {
+                Reach(Code::outsideElement, "RODSTOCK", &bar, Plant::kBar.x.row.member, "bar", set.count, shape,
+                      *extents_, "the element's extents ");
+            }
+            if (mat != nullptr) {
+                Reach(Code::outsideMat, "RODSTOCK", &bar, Plant::kBar.x.row.member, "bar", set.count, shape, *mat,
+                      "its mat, ");
+            }
         }
     }
 
-    void Girders(BracedGirderData& data)
+    // UT401 and UT402: what a plant needs to cut and lay a set of bars.
+    void Size(Rodstock& bar, const Plant::BarSet& set)
+    {
+        std::string zero;
+        const char* first = nullptr;
+        std::string firstValue;
+        const auto look = [&](const Plant::Row& row, std::int32_t value) {
+            if (value > 0) {
+                return;
+            }
+            zero += std::string(zero.empty() ? "" : " and ") + row.name + " (" + row.member + ") is " +
+                    std::to_string(value);
+            if (first == nullptr) {
+                first = row.member;
+                firstValue = std::to_string(value);
+            }
+        };
+        look(Plant::kBar.count.row, set.count);
+        look(Plant::kBar.diameter.row, set.diameter);
+        look(Plant::kBar.length.row, set.length);
+        if (first != nullptr) {
+            RecordFinding& finding = Add(Code::barWithoutSize, "RODSTOCK", &bar, first, firstValue);
+            finding.keyed = false;
+            finding.message = "RODSTOCK " + zero + ": a set of bars needs a count, a diameter and a length";
+        }
+        if (set.count >= 2 && set.pitch == 0) {
+            const Plant::Row& pitch = Plant::kBar.pitch.row;
+            const Plant::Row& count = Plant::kBar.count.row;
+            const std::string bars = std::to_string(set.count);
+            RecordFinding& finding = Add(Code::barsStacked, "RODSTOCK", &bar, pitch.member, "0");
+            finding.keyed = false;
+            finding.message = "RODSTOCK " + std::string(pitch.name) + " (" + pitch.member + ") is 0 with " +
+                              count.name + " (" + count.member + ") " + bars + ": the " + bars +
+                              " bars lie on one another";
+        }
+    }
+
+    void Girders(BracedGirderData& data, Plant::Origin origin = {})
     {
         for (BracedGirder& girder : data.girders) {
             Coordinate("BRGIRDER", &girder, "position.x", girder.position.x, false);
             Coordinate("BRGIRDER", &girder, "position.y", girder.position.y, false);
+            const Plant::GirderGroup group = Plant::GirderGroupOf(girder, origin);
+            if (extents_ && group.count > 0) {
+                Reach(
+                    Code::outsideElement, "BRGIRDER", &girder, Plant::kGirder.x.row.member, "girder", group.count,
+                    [&group](std::int32_t i) { return Plant::GirderInPlan(group, i); }, *extents_,
+                    "the element's extents ");
+            }
         }
     }
 
     void Mats(Reinforcement& block)
     {
         for (Steelmat& mat : block.mats) {
-            Bars(mat.rodstocks);
-            Girders(mat.girders);
+            const Plant::Mat view = Plant::MatOf(mat);
+            PlanBox area;
+            area.Widen({static_cast<double>(view.x), static_cast<double>(view.y)});
+            area.Widen({static_cast<double>(view.x) + view.length, static_cast<double>(view.y) + view.width});
+            Bars(mat.rodstocks, {view.x, view.y}, &area);
+            Girders(mat.girders, {view.x, view.y});
         }
+    }
+
+    // UT403 and UT404 of a set or group: its first member beyond the box.
+    template <class Shape>
+    void Reach(Code code, const char* tag, const void* record, const char* made, const char* what, std::int32_t count,
+               const Shape& shape, const PlanBox& box, const std::string& boxName)
+    {
+        if (const std::optional<Reaching> reaching = FirstReaching(count, shape, box)) {
+            Whole(code, tag, record, made,
+                  std::string(what) + " " + std::to_string(reaching->member + 1) + " of " + std::to_string(count) +
+                      " reaches " + PointText(reaching->point) + ", beyond " + boxName + BoxText(box));
+        }
+    }
+
+    // A finding of the record as a whole; `made` is a member the record is
+    // made with, by which a script's check finds the call that made it.
+    void Whole(Code code, const char* tag, const void* record, const char* made, const std::string& message)
+    {
+        RecordFinding& finding = Add(code, tag, record, made, "");
+        finding.whole = true;
+        finding.keyed = false;
+        finding.message = finding.tag + " " + finding.path + ": " + message;
     }
 
     void Outline(std::vector<GeoData>& pieces, const char* tag)
@@ -279,6 +539,7 @@ private:
 
     const Tree::RecordIndex& index_;
     std::vector<RecordFinding>& out_;
+    std::optional<PlanBox> extents_; // of the element being walked
 };
 
 } // namespace
@@ -295,8 +556,10 @@ std::optional<Place> PlaceOf(const RecordFinding& finding, const WrittenDocument
     if (finding.written) {
         return finding.written;
     }
-    if (const auto field = written.Field(finding.record, finding.member)) {
-        return field;
+    if (!finding.whole) {
+        if (const auto field = written.Field(finding.record, finding.member)) {
+            return field;
+        }
     }
     return written.RecordStart(finding.record);
 }

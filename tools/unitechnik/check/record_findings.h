@@ -26,6 +26,13 @@ struct RecordFinding {
     std::string name;             // the member from there ("curve.start.x"); a list's name for a count
     bool list = false;            // the member is a count of a list
     bool writtenAsZero = false;   // a coordinate below zero that the version writes as 0
+    // Of the record as a whole (a bar that reaches outside): placed at the
+    // record's start and named by its path, not by a member. Its member is
+    // one the record is made with, by which a script's check finds the call.
+    bool whole = false;
+    // A script's key is found by the member's value; not so for a 0, which
+    // many keys of a call hold.
+    bool keyed = true;
     std::string value;            // the value as the tree shows it (tree/flat_records.h)
     std::wstring text;            // a text's whole value, for a text event
     std::optional<Place> written; // where the field stands in the document written
@@ -37,7 +44,10 @@ struct RecordFinding {
 std::vector<RecordFinding> FieldFindings(const WrittenDocument& written, const Tree::RecordIndex& index);
 
 // Points of outlines, openings and mounted parts, and the positions of
-// mounted parts, bars and girders, below zero; elements without a contour.
+// mounted parts, bars and girders, below zero; elements without a contour;
+// bar sets without a count, diameter or length, or with their bars on one
+// another; bars, girders and mounted parts beyond the element's extents, and
+// a mat's bars beyond the mat.
 std::vector<RecordFinding> TreeFindings(std::vector<Order>& orders, const Tree::RecordIndex& index);
 
 // Where a tree finding stands in the document written.

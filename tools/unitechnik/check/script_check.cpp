@@ -289,7 +289,7 @@ private:
             }
         }
         std::optional<std::string> key;
-        if (value && !finding.list) {
+        if (value && !finding.list && finding.keyed) {
             key = KeyFinder(*value).In(*call);
         }
         std::string message = CallPlace(*call);
@@ -306,7 +306,9 @@ private:
             details["fileColumn"] = finding.written->column;
         }
         details["record"] = finding.path;
-        details["member"] = finding.name;
+        if (!finding.whole) {
+            details["member"] = finding.name;
+        }
         Add(*call, finding.code, message, std::move(details));
     }
 

@@ -2,29 +2,45 @@
 
 #include "files.h"
 #include "sub_command.h"
+#include "unicode.h"
 
 #include <optional>
+#include <string>
 
 namespace ItUnitechnik::Tool::Script {
 
 void RunCalls(const std::vector<Call>& calls, RunObserver& observer)
 {
     for (const Call& call : calls) {
-        std::optional<std::string> path;
-        bool writable = true;
-        if (call.callEntry->pathKey != nullptr) {
-            path = HostToUtf8(call.arguments.Text(call.callEntry->pathKey));
-            writable = CanWriteFile(*path);
+        const char* pathKey = call.callEntry->pathKey;
+        if (pathKey == nullptr) {
+            observer.Called(call, call.callEntry->invoke(call.arguments));
+            continue;
         }
-        const Outcome outcome = call.callEntry->invoke(call.arguments);
-        observer.Called(call, outcome);
-        if (path) {
-            if (!writable || !FileIsThere(*path)) {
-                throw FileError("call " + std::to_string(call.index) + " (" + call.callEntry->name +
-                                "): cannot write \"" + *path + "\"");
+        // The document goes to a temporary beside its file and takes the
+        // file's place when it is whole.
+        const std::string path = HostToUtf8(call.arguments.Text(pathKey));
+        std::optional<Outcome> outcome;
+        const bool wrote = WriteWholeFile(path, [&](const std::string& file) {
+            const std::optional<HostText> text = Utf8ToHost(file);
+            if (!text) {
+                return false;
             }
-            observer.Wrote(*path);
+            Arguments arguments = call.arguments;
+            arguments.Set(pathKey, *text);
+            outcome = call.callEntry->invoke(arguments);
+            // 0 is a stream that was unhealthy from the start; 1 says nothing,
+            // so the file must be there.
+            return !(outcome->result && *outcome->result == 0) && FileIsThere(file);
+        });
+        if (outcome) {
+            observer.Called(call, *outcome);
         }
+        if (!wrote) {
+            throw FileError("call " + std::to_string(call.index) + " (" + call.callEntry->name + "): cannot write \"" +
+                            path + "\"");
+        }
+        observer.Wrote(path);
     }
 }
 

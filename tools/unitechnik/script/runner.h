@@ -19,12 +19,15 @@ public:
 
 // Runs the calls through the library's exports, in order, in this process.
 //
-// endDocument gives 1 even when its file cannot be made, so the tool looks
-// itself: before the call it opens the file to append (which fails for a
-// missing folder, a read-only file or a folder in its place, and leaves
-// what is there as it is), and after the call the file must be there. When
-// either fails, FileError names the call and the path, and no later call
-// runs.
+// A call that writes a file writes it whole or not at all (WriteWholeFile):
+// the export is given a temporary beside the file, which is renamed into
+// place. endDocument gives 1 even when its file cannot be made, so the tool
+// looks itself: the temporary must be made (which fails for a missing folder
+// or a file that may not be written, and the export is not called then), the
+// export must not give 0, the file must be there, and the rename must go
+// through (which fails for a folder in its place). When any of it fails,
+// FileError names the call and the path, what stood at the path is as it
+// was, and no later call runs.
 void RunCalls(const std::vector<Call>& calls, RunObserver& observer);
 
 } // namespace ItUnitechnik::Tool::Script
