@@ -3,9 +3,10 @@
 #include <array>
 
 // Every place where the tolerant reading departs from the records' own Read,
-// in one list. The records' Read stays as the format's readers know it; the
-// tolerant reading reads each record in the writer's own layout instead, and
-// notes which of these departures a document needed.
+// and every way a file from other hands departs from the writer's own lines
+// that it takes, in one list. The records' Read stays as the format's readers
+// know it; the tolerant reading reads each record in the writer's own layout
+// instead, and notes which of these departures a document needed.
 namespace ItUnitechnik {
 
 enum class Departure {
@@ -48,6 +49,20 @@ enum class Departure {
     // it out of step) and some texts as the rest of a line (a line feed
     // inside breaks them).
     textsByPlace,
+    // Lines that lost their trailing blanks, as some editors and transfers
+    // leave them: a text, a character or a blank that the line end cuts short
+    // reads as the blanks it lost. A number is never cut so, its fill being
+    // zeros, and must still stand whole. Taken only when the file does not
+    // read as it stands, since a line feed inside a text ends a line too. The
+    // records' Read takes a cut text as the characters left, and fails on a
+    // text line left empty.
+    trailingBlanksLost,
+    // The last line without its CR LF: the end of the file ends it. The
+    // writer ends every line.
+    noFinalLineEnd,
+    // Lines ended by a bare line feed, without the carriage return the writer
+    // puts in front of it: each is taken as the end of its line.
+    bareLineFeeds,
 };
 
 struct DepartureInfo {
@@ -55,7 +70,7 @@ struct DepartureInfo {
     const char* name;
 };
 
-inline constexpr std::array<DepartureInfo, 12> kDepartures{{
+inline constexpr std::array<DepartureInfo, 15> kDepartures{{
     {Departure::signBehindZeros, "sign-behind-zeros"},
     {Departure::orderLineFrom503, "order-line-from-503"},
     {Departure::orderNumberUntrimmed, "order-number-untrimmed"},
@@ -68,6 +83,9 @@ inline constexpr std::array<DepartureInfo, 12> kDepartures{{
     {Departure::weldingFlagBesideCount, "welding-flag-beside-count"},
     {Departure::arcFlagsDecimal, "arc-flags-decimal"},
     {Departure::textsByPlace, "texts-by-place"},
+    {Departure::trailingBlanksLost, "trailing-blanks-lost"},
+    {Departure::noFinalLineEnd, "no-final-line-end"},
+    {Departure::bareLineFeeds, "bare-line-feeds"},
 }};
 
 const char* DepartureName(Departure departure);

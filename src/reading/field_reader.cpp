@@ -147,10 +147,33 @@ std::wstring FieldReader::Take(std::size_t minimum, bool (*allowed)(wchar_t),
     return taken;
 }
 
+bool FieldReader::CutShortHere()
+{
+    if (!linesCutShort_ || position_ >= text_.size() || text_[position_] != L'\n') {
+        return false;
+    }
+    sawLineCutShort_ = true;
+    return true;
+}
+
 std::wstring FieldReader::Text(int width)
 {
     fieldStart_ = position_;
     const std::size_t count = static_cast<std::size_t>(std::max(width, 0));
+    if (linesCutShort_) {
+        // The line may end inside the field: what stands before its end,
+        // then the blanks the line lost.
+        const auto begin = text_.begin() + static_cast<std::ptrdiff_t>(position_);
+        const auto end = begin + static_cast<std::ptrdiff_t>(std::min(count, text_.size() - position_));
+        const auto lineEnd = std::find(begin, end, L'\n');
+        if (lineEnd != end) {
+            std::wstring field(begin, lineEnd);
+            position_ += field.size();
+            field.resize(count, L' ');
+            CutShortHere();
+            return field;
+        }
+    }
     if (text_.size() - position_ < count) {
         throw ReadFailure(StopAt(position_, "a text of " + std::to_string(count) + " places", true));
     }
@@ -267,6 +290,9 @@ bool FieldReader::Digit()
 wchar_t FieldReader::Char()
 {
     fieldStart_ = position_;
+    if (CutShortHere()) {
+        return L' ';
+    }
     if (position_ >= text_.size()) {
         Fail("a character");
     }
@@ -275,6 +301,10 @@ wchar_t FieldReader::Char()
 
 void FieldReader::Blank()
 {
+    fieldStart_ = position_;
+    if (CutShortHere()) {
+        return;
+    }
     Literal(" ");
 }
 
@@ -302,6 +332,11 @@ void FieldReader::Literal(const char* text)
 void FieldReader::EndLine()
 {
     fieldStart_ = position_;
+    if (position_ == text_.size() && position_ > 0 && text_[position_ - 1] != L'\n') {
+        // The last line without its line end.
+        sawEndForLineEnd_ = true;
+        return;
+    }
     if (position_ >= text_.size() || text_[position_] != L'\n') {
         Fail("the end of the line");
     }

@@ -83,6 +83,17 @@ public:
     // Whether a number so far had its minus sign behind fill zeros.
     bool SawSignBehindZeros() const { return signBehindZeros_; }
 
+    // Lines that may have lost their trailing blanks: a text, a character or
+    // a blank that the line end cuts short reads as the blanks it lost, and
+    // the line end stays to be read. Off, a text takes its places across a
+    // line end, as a line feed inside a text stands. A number is never cut
+    // so (its fill is zeros) and must stand whole either way.
+    void TakeLinesCutShort(bool take) { linesCutShort_ = take; }
+    // Whether a field so far was cut short by its line end.
+    bool SawLineCutShort() const { return sawLineCutShort_; }
+    // Whether the end of the text so far stood in the place of a line end.
+    bool SawEndForLineEnd() const { return sawEndForLineEnd_; }
+
     // The tag of the record being read, for the place of a stop.
     void SetRecord(std::string tag) { record_ = std::move(tag); }
     const std::string& Record() const { return record_; }
@@ -104,6 +115,9 @@ private:
     std::wstring Take(std::size_t minimum, bool (*allowed)(wchar_t), bool (*more)(wchar_t, const std::wstring&),
                       const char* what);
     std::int64_t Integer(NumberKind kind, int width);
+    // With lines cut short taken: whether the line ends here, so that what
+    // stood before its end was blanks.
+    bool CutShortHere();
 
     template <class T>
     T Narrowed(std::int64_t value, const char* what) const
@@ -128,6 +142,9 @@ private:
     std::size_t position_ = 0;
     std::size_t fieldStart_ = 0;
     bool signBehindZeros_ = false;
+    bool linesCutShort_ = false;
+    bool sawLineCutShort_ = false;
+    bool sawEndForLineEnd_ = false;
     std::vector<std::size_t> lineStarts_;
     std::string record_;
 };

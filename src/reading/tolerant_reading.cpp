@@ -16,11 +16,12 @@ const char* DepartureName(Departure departure)
 
 namespace {
 
-TolerantDocument Read(std::wstring text, std::vector<std::size_t> bareLineEnds)
+// One reading of the whole text, lines cut short taken or not.
+TolerantDocument Attempt(const std::wstring& text, bool linesCutShort)
 {
     TolerantDocument document;
-    document.bareLineEnds = std::move(bareLineEnds);
-    FieldReader in(std::move(text));
+    FieldReader in(text);
+    in.TakeLinesCutShort(linesCutShort);
     Loader loader(in);
     try {
         loader.Document(document.orders, document.trailingData);
@@ -30,6 +31,37 @@ TolerantDocument Read(std::wstring text, std::vector<std::size_t> bareLineEnds)
     document.departures = loader.Departures();
     if (in.SawSignBehindZeros()) {
         document.departures.insert(Departure::signBehindZeros);
+    }
+    if (in.SawLineCutShort()) {
+        document.departures.insert(Departure::trailingBlanksLost);
+    }
+    if (in.SawEndForLineEnd()) {
+        document.departures.insert(Departure::noFinalLineEnd);
+    }
+    return document;
+}
+
+bool Further(const ReadStop& a, const ReadStop& b)
+{
+    return a.line > b.line || (a.line == b.line && a.column > b.column);
+}
+
+TolerantDocument Read(const std::wstring& text, std::vector<std::size_t> bareLineEnds)
+{
+    // The text as it stands first: a line feed inside a text is read as
+    // the writer wrote it. A file that does not read so may have lost the
+    // blanks at the ends of its lines; read again taking them as lost, the
+    // reading that got further is the document.
+    TolerantDocument document = Attempt(text, false);
+    if (!document.Complete()) {
+        TolerantDocument again = Attempt(text, true);
+        if (again.Complete() || Further(*again.stop, *document.stop)) {
+            document = std::move(again);
+        }
+    }
+    document.bareLineEnds = std::move(bareLineEnds);
+    if (!document.bareLineEnds.empty()) {
+        document.departures.insert(Departure::bareLineFeeds);
     }
     return document;
 }
@@ -57,7 +89,7 @@ TolerantDocument ReadTolerantly(const std::string& bytes)
         }
         text += static_cast<wchar_t>(byte);
     }
-    return Read(std::move(text), std::move(bareLineEnds));
+    return Read(text, std::move(bareLineEnds));
 }
 
 TolerantDocument ReadTolerantlyText(const std::wstring& text)

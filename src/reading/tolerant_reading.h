@@ -25,8 +25,10 @@ struct TolerantDocument {
 };
 
 // Reads a document from the bytes of its file: one character per byte, CR LF
-// as the end of a line (a bare line feed is taken too, and noted). A file cut
-// off inside a record reads as far as it goes; `stop` says where.
+// as the end of a line. Taken too, and noted among the departures: a bare line
+// feed as a line end, the end of the file as the last line's end, and lines
+// that lost their trailing blanks. A file cut off inside a record reads as far
+// as it goes; `stop` says where.
 TolerantDocument ReadTolerantly(const std::string& bytes);
 
 // The same over a text whose lines end in single line feeds, as the summary

@@ -199,5 +199,38 @@ TEST_F(Departures, ABlankInsideACode)
     ExpectDeparture(Departure::textsByPlace);
 }
 
+TEST_F(Departures, LinesThatLostTheirTrailingBlanks)
+{
+    Start(600);
+    theDocument.orders.back().project.projectText1 = L"Riverside";
+    // A bar whose line ends in its bending kind, a blank.
+    ItBarBlock bar{};
+    bar.designation = HostText(u"D12");
+    addStraightRodstock(&bar);
+    Element().rodstockData.bars.back().bendingKind = L' ';
+    const std::wstring text = Written(theDocument.orders);
+    std::wstring stripped;
+    for (wchar_t c : text) {
+        if (c == L'\n') {
+            while (!stripped.empty() && stripped.back() == L' ') {
+                stripped.pop_back();
+            }
+        }
+        stripped += c;
+    }
+    ASSERT_NE(stripped.find(L"\nRiverside\n"), std::wstring::npos);
+    ASSERT_NE(text.find(L" 00 \n"), std::wstring::npos);
+    ASSERT_EQ(stripped.find(L" 00 \n"), std::wstring::npos);
+    EXPECT_FALSE(RecordsReadBack(stripped, 1));
+    const TolerantDocument document = ReadTolerantlyText(stripped);
+    ASSERT_TRUE(document.Complete()) << "line " << document.stop->line << ", column " << document.stop->column << ": "
+                                     << document.stop->expected;
+    std::vector<Order> orders = document.orders;
+    EXPECT_EQ(Written(orders), text);
+    EXPECT_EQ(document.departures.count(Departure::trailingBlanksLost), 1u);
+    ASSERT_EQ(document.orders.at(0).elementParts.at(0).rodstockData.bars.size(), 1u);
+    EXPECT_EQ(document.orders[0].elementParts[0].rodstockData.bars[0].bendingKind, L' ');
+}
+
 } // namespace
 } // namespace ItUnitechnik

@@ -1,6 +1,8 @@
 // The tolerant reading: every golden file reads back and is written again to
-// the same bytes; a file cut off, a bare line end and bytes behind the last
-// order are told where they stand.
+// the same bytes, and so does every golden file whose lines lost their
+// trailing blanks, whose last line lost its end or whose lines end in bare
+// line feeds; a file cut off, a bare line end and bytes behind the last order
+// are told where they stand.
 
 #include "reading/tolerant_reading.h"
 
@@ -55,6 +57,10 @@ TEST(TolerantReading, EveryGoldenFileReadsBackToTheSameBytes)
                                          << document.stop->line << ", column " << document.stop->column;
         EXPECT_TRUE(document.bareLineEnds.empty()) << path;
         EXPECT_EQ(DescribeDifference(bytes, Written(document.orders)), "") << path;
+        // The writer's own lines need none of the departures of other hands.
+        EXPECT_EQ(document.departures.count(Departure::trailingBlanksLost), 0u) << path;
+        EXPECT_EQ(document.departures.count(Departure::noFinalLineEnd), 0u) << path;
+        EXPECT_EQ(document.departures.count(Departure::bareLineFeeds), 0u) << path;
     }
 }
 
@@ -137,6 +143,182 @@ TEST(TolerantReading, AFieldThatIsNotThereIsToldByLineAndColumn)
     EXPECT_EQ(document.stop->column, 1u);
     EXPECT_EQ(document.stop->expected, "a number of at least 3 places");
     EXPECT_EQ(document.stop->record, "HEADER__");
+}
+
+// The golden files as other hands pass them on: each file with lines, and the
+// same file changed line by line.
+struct Changed {
+    std::string path;
+    std::string original;
+    std::string changed;
+};
+
+std::vector<Changed> GoldenFilesChanged(std::string (*change)(const std::string&))
+{
+    std::vector<Changed> files;
+    for (const std::string& path : GoldenDocuments()) {
+        const std::string bytes = ReadFileBytes(path);
+        if (bytes.find("\r\n") != std::string::npos) {
+            files.push_back(Changed{path, bytes, change(bytes)});
+        }
+    }
+    return files;
+}
+
+// Every blank in front of a CR LF dropped, as an editor drops them.
+std::string WithoutTrailingBlanks(const std::string& bytes)
+{
+    std::string out;
+    for (char c : bytes) {
+        if (c == '\r') {
+            while (!out.empty() && out.back() == ' ') {
+                out.pop_back();
+            }
+        }
+        out += c;
+    }
+    return out;
+}
+
+std::string WithoutLastLineEnd(const std::string& bytes)
+{
+    return bytes.substr(0, bytes.size() - 2);
+}
+
+std::string WithBareLineFeeds(const std::string& bytes)
+{
+    std::string out;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        if (!(bytes[i] == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n')) {
+            out += bytes[i];
+        }
+    }
+    return out;
+}
+
+// The file read whole to the records of the original, which the writer
+// writes again to the original's bytes.
+void ExpectSameRecords(const Changed& file, const TolerantDocument& document)
+{
+    ASSERT_TRUE(document.Complete()) << file.path << ": " << document.stop->expected << " at line "
+                                     << document.stop->line << ", column " << document.stop->column;
+    EXPECT_EQ(DescribeDifference(file.original, Written(document.orders)), "") << file.path;
+}
+
+TEST(TolerantReading, EveryGoldenFileWithoutItsTrailingBlanksReadsToTheSameRecords)
+{
+    const std::vector<Changed> files = GoldenFilesChanged(WithoutTrailingBlanks);
+    ASSERT_GE(files.size(), 15u);
+    for (const Changed& file : files) {
+        // Every golden file has lines that end in blanks: in its third line
+        // at the least.
+        ASSERT_LT(file.changed.size(), file.original.size()) << file.path;
+        const TolerantDocument document = ReadTolerantly(file.changed);
+        ExpectSameRecords(file, document);
+        EXPECT_EQ(document.departures.count(Departure::trailingBlanksLost), 1u) << file.path;
+        EXPECT_TRUE(document.bareLineEnds.empty()) << file.path;
+    }
+}
+
+TEST(TolerantReading, EveryGoldenFileWithoutItsLastLineEndReadsWhole)
+{
+    const std::vector<Changed> files = GoldenFilesChanged(WithoutLastLineEnd);
+    ASSERT_GE(files.size(), 15u);
+    for (const Changed& file : files) {
+        ASSERT_EQ(file.changed + "\r\n", file.original) << file.path;
+        const TolerantDocument document = ReadTolerantly(file.changed);
+        ExpectSameRecords(file, document);
+        EXPECT_EQ(document.departures.count(Departure::noFinalLineEnd), 1u) << file.path;
+        EXPECT_EQ(document.departures.count(Departure::trailingBlanksLost), 0u) << file.path;
+    }
+}
+
+TEST(TolerantReading, EveryGoldenFileWithBareLineFeedsReadsToTheSameRecords)
+{
+    const std::vector<Changed> files = GoldenFilesChanged(WithBareLineFeeds);
+    ASSERT_GE(files.size(), 15u);
+    for (const Changed& file : files) {
+        const TolerantDocument document = ReadTolerantly(file.changed);
+        ExpectSameRecords(file, document);
+        EXPECT_EQ(document.departures.count(Departure::bareLineFeeds), 1u) << file.path;
+        // Every line: line 1, 2, ... up to the last.
+        std::vector<std::size_t> lines;
+        for (std::size_t at = file.original.find("\r\n"); at != std::string::npos;
+             at = file.original.find("\r\n", at + 2)) {
+            lines.push_back(lines.size() + 1);
+        }
+        EXPECT_EQ(document.bareLineEnds, lines) << file.path;
+    }
+}
+
+// All three at once, as a file edited where lines end in a line feed.
+std::string AsEditedElsewhere(const std::string& bytes)
+{
+    return WithBareLineFeeds(WithoutTrailingBlanks(WithoutLastLineEnd(bytes)));
+}
+
+TEST(TolerantReading, EveryGoldenFileEditedElsewhereReadsToTheSameRecords)
+{
+    for (const Changed& file : GoldenFilesChanged(AsEditedElsewhere)) {
+        const TolerantDocument document = ReadTolerantly(file.changed);
+        ExpectSameRecords(file, document);
+        EXPECT_EQ(document.departures.count(Departure::trailingBlanksLost), 1u) << file.path;
+        EXPECT_EQ(document.departures.count(Departure::noFinalLineEnd), 1u) << file.path;
+        EXPECT_EQ(document.departures.count(Departure::bareLineFeeds), 1u) << file.path;
+    }
+}
+
+TEST(TolerantReading, ATextCutShortByItsLineEndReadsAsItsFieldWithBlanks)
+{
+    const std::string whole = Golden("slab/slab-502.txt");
+    ASSERT_NE(whole.find("\r\nBlock C             \r\n"), std::string::npos);
+    ASSERT_NE(whole.find("\r\n70565   \r\n"), std::string::npos);
+    const TolerantDocument document = ReadTolerantly(WithoutTrailingBlanks(whole));
+    ASSERT_TRUE(document.Complete()) << document.stop->expected << " at line " << document.stop->line;
+    ASSERT_EQ(document.orders.size(), 1u);
+    const Order& order = document.orders[0];
+    // Twenty places, eight places: the text and the blanks behind it.
+    EXPECT_EQ(order.project.projectText2, L"Block C             ");
+    EXPECT_EQ(order.firstAddress.addressText3, L"70565   ");
+    // The line's last blank and forty places, all of them lost.
+    EXPECT_EQ(order.legacyText40, std::wstring(40, L' '));
+
+    // A text line left empty: the field's twenty blanks.
+    const std::string blank = Golden("orders/one-502.txt");
+    ASSERT_EQ(blank.substr(blank.find("\r\n", blank.find("502\r\n") + 5) + 2, 22), std::string(20, ' ') + "\r\n");
+    const TolerantDocument empty = ReadTolerantly(WithoutTrailingBlanks(blank));
+    ASSERT_TRUE(empty.Complete()) << empty.stop->expected << " at line " << empty.stop->line;
+    EXPECT_EQ(empty.orders.at(0).project.projectText1, L"                    ");
+}
+
+TEST(TolerantReading, ANumberCutShortByItsLineEndStillStops)
+{
+    // Numbers are filled with zeros, never with blanks: "502" cut to "50"
+    // is no lost blank.
+    std::string bytes = WithoutTrailingBlanks(Golden("orders/one-502.txt"));
+    bytes.erase(bytes.find("502\r\n") + 2, 1);
+    const TolerantDocument document = ReadTolerantly(bytes);
+    ASSERT_FALSE(document.Complete());
+    EXPECT_EQ(document.stop->line, 2u);
+    EXPECT_EQ(document.stop->column, 1u);
+    EXPECT_EQ(document.stop->expected, "a number of at least 3 places");
+}
+
+TEST(TolerantReading, AFileCutOffBeforeAnEmptyLineHasNoLineEndMissing)
+{
+    // A free form without parts ends its line and leaves an empty one; the
+    // file cut off behind the first of the two line ends stops there, and
+    // the line it ends in is not taken for a last line without its end.
+    const std::string whole = Golden("reinforced/reinforced-600.txt");
+    const std::size_t form = whole.find("\r\n    00\r\n\r\n");
+    ASSERT_NE(form, std::string::npos);
+    const TolerantDocument document = ReadTolerantly(whole.substr(0, form + 10));
+    ASSERT_FALSE(document.Complete());
+    EXPECT_TRUE(document.stop->atEnd);
+    EXPECT_EQ(document.stop->line, 98u);
+    EXPECT_EQ(document.stop->column, 1u);
+    EXPECT_EQ(document.stop->expected, "the end of the line");
+    EXPECT_EQ(document.departures.count(Departure::noFinalLineEnd), 0u);
 }
 
 } // namespace
