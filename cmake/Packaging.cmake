@@ -4,10 +4,13 @@
 # include/, the library, the CMake package and the pkg-config file in the
 # library folder, the tool in bin/, the Python package where Debian's python3
 # finds packages (with the prefix /usr), the C# sources of the .NET binding in
-# share/itunitechnik/dotnet and the README in share/doc/itunitechnik. On
+# share/itunitechnik/dotnet, the README and the docs/ folder in
+# share/doc/itunitechnik, the tool's manual page in share/man/man1 and its
+# bash completion in share/bash-completion/completions. On
 # Windows the zip holds the DLL in bin/, the import library and the module
-# definition file in lib/, the header, and the bindings in bindings/, with a
-# copy of the DLL inside the Python package so that it finds it beside itself.
+# definition file in lib/, the header, the README with docs/, and the bindings
+# in bindings/, with a copy of the DLL (and of the reading library's DLL)
+# inside the Python package so that it finds it beside itself.
 include(CMakePackageConfigHelpers)
 
 if(WIN32)
@@ -24,7 +27,7 @@ set(ITUNITECHNIK_INSTALL_PYTHONDIR ${python_default} CACHE STRING
 set(ITUNITECHNIK_INSTALL_DOTNETDIR ${dotnet_default} CACHE STRING
     "Where the C# sources of the .NET binding are installed, below the prefix")
 set(ITUNITECHNIK_INSTALL_DOCDIR ${doc_default} CACHE STRING
-    "Where the README is installed, below the prefix")
+    "Where the README and the docs/ folder are installed, below the prefix")
 set(cmake_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ItUnitechnik)
 
 # The library and its header.
@@ -40,9 +43,24 @@ if(MINGW)
     install(FILES ${PROJECT_BINARY_DIR}/bin/itunitechnik.def DESTINATION ${CMAKE_INSTALL_LIBDIR})
 endif()
 
-# The command-line tool, where this tree has it.
+# The reading library for hosts and its header, where this tree has it (it is
+# built with the tool); the Python package finds it as it finds the library.
+if(TARGET itunitechnik_reading)
+    install(TARGETS itunitechnik_reading
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    install(FILES include/itunitechnik_reading.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+endif()
+
+# The command-line tool, where this tree has it, with its manual page and its
+# bash completion where the build writes them (not for Windows).
 if(TARGET unitechnik)
     install(TARGETS unitechnik RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+endif()
+if(TARGET unitechnik_reference_files)
+    install(FILES ${UNITECHNIK_MANUAL_PAGE} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+    install(FILES ${UNITECHNIK_BASH_COMPLETION} DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
 endif()
 
 # The CMake package for find_package.
@@ -80,16 +98,20 @@ endforeach()
 configure_file(cmake/itunitechnik.pc.in ${PROJECT_BINARY_DIR}/itunitechnik.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/itunitechnik.pc DESTINATION ${pkgconfig_dir})
 
-# The bindings and the README.
+# The bindings, the README and the pages it links to.
 install(DIRECTORY ${ITUNITECHNIK_PYTHON_DIR}/unitechnik DESTINATION ${ITUNITECHNIK_INSTALL_PYTHONDIR}
     FILES_MATCHING PATTERN "*.py")
 if(WIN32)
     install(FILES ${ITUNITECHNIK_PYTHON_DIR}/pyproject.toml DESTINATION ${ITUNITECHNIK_INSTALL_PYTHONDIR})
     install(FILES $<TARGET_FILE:itunitechnik> DESTINATION ${ITUNITECHNIK_INSTALL_PYTHONDIR}/unitechnik)
+    if(TARGET itunitechnik_reading)
+        install(FILES $<TARGET_FILE:itunitechnik_reading> DESTINATION ${ITUNITECHNIK_INSTALL_PYTHONDIR}/unitechnik)
+    endif()
 endif()
 install(DIRECTORY bindings/dotnet/ DESTINATION ${ITUNITECHNIK_INSTALL_DOTNETDIR}
     FILES_MATCHING PATTERN "*.cs")
 install(FILES README.md DESTINATION ${ITUNITECHNIK_INSTALL_DOCDIR})
+install(DIRECTORY docs/ DESTINATION ${ITUNITECHNIK_INSTALL_DOCDIR}/docs)
 
 # cpack: a .tar.gz and a .deb on Linux, a .zip on Windows (the presets
 # `package` and `windows-package`).

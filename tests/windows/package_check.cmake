@@ -35,18 +35,22 @@ endif()
 set(failures "")
 foreach(path
         bin/itunitechnik.dll
+        bin/itunitechnik_reading.dll
         lib/libitunitechnik.dll.a
         lib/itunitechnik.def
         include/itunitechnik.h
         include/itunitechnik_version.h
+        include/itunitechnik_reading.h
         lib/cmake/ItUnitechnik/ItUnitechnikConfig.cmake
         lib/pkgconfig/itunitechnik.pc
         bindings/dotnet/NativeMethods.cs
         bindings/dotnet/Document.cs
+        bindings/dotnet/UnitechnikFile.cs
         bindings/python/pyproject.toml
         bindings/python/unitechnik/__init__.py
         bindings/python/unitechnik/_version.py
         bindings/python/unitechnik/itunitechnik.dll
+        bindings/python/unitechnik/itunitechnik_reading.dll
         README.md)
     if(NOT EXISTS ${top}/${path})
         string(APPEND failures "  missing: ${path}\n")

@@ -17,36 +17,87 @@ written when the block ends without an exception:
                              placement=[(0, 0, 0), (6000, 0, 0), (0, 2400, 0)],
                              version=600, element_text="Floor slab", element_measure=1.25)
         document.add_contour(points=[(0, 0), (6000, 0), (6000, 2400), (0, 2400), (0, 0)])
+
+The plant's names write bars and girders too: add_bar_set(count=12,
+diameter=10, length=5600, pitch=150, x=200, y=300, z=40, rotation=0,
+grade="500") fills the bar record's members that the reading library's table
+of meanings names.
+
+read(path) and read_bytes(data) read any Unitechnik file through the reading
+library (itunitechnik_reading) and give a File: its orders, elements, and
+each element's outlines, bar sets, girder groups, mats, irons and layers, as
+dataclasses whose fields are the plant's names; File.bom() is the bill of
+materials. A file that does not read raises ReadError with the line and
+column where the reading stopped:
+
+    for order in unitechnik.read("slab.uni").orders:
+        for element in order.elements:
+            for bars in element.bars:
+                print(element.number, bars.count, bars.diameter, bars.length)
+
+The classes of the plant's view whose fields are the table's names (BarSet,
+GirderGroup, Mat, ...) are made from the table when first used, which loads
+the reading library.
 """
 
-import ctypes
-import numbers
-import os
-import re
-from dataclasses import dataclass, fields
-from typing import Sequence, Tuple
+# Only the API's names are public: what the package imports is private.
+import ctypes as _ctypes
+import dataclasses as _dataclasses
+import inspect as _inspect
+import numbers as _numbers
+import os as _os
+import re as _re
+from dataclasses import dataclass as _dataclass, fields as _fields
+from typing import Sequence as _Sequence, Tuple as _Tuple
 
-from . import _library
+from . import _library, _plant
+from ._reading import Circle, Contour, File, Line, Order, Piece, Polygon, ReadError, read, read_bytes
+from ._reading import meanings as plant_meanings
 from ._version import __version__
 
+# The reading's classes are the package's: tracebacks and reprs say so.
+for _class in (Circle, Contour, File, Line, Order, Piece, Polygon, ReadError):
+    _class.__module__ = __name__
+del _class
+
 __all__ = [
+    # Writing.
     "Bar", "BracedGirder", "Cutout", "Document", "FreeFormSegment", "ProjectData",
-    "add_braced_girders", "add_cfs_rodstock", "add_contour", "add_cutout", "add_ext_iron",
-    "add_free_form_rodstock", "add_layer", "add_mounting_part", "add_set", "add_steelmat",
-    "add_straight_rodstock", "end_document", "set_double_wall_gap", "set_project_data",
-    "set_slab_info_fields", "set_thicknesses", "start_order", "summary", "__version__",
+    "add_bar_set", "add_braced_girders", "add_cfs_rodstock", "add_contour", "add_cutout", "add_ext_iron",
+    "add_free_form_rodstock", "add_girder_group", "add_layer", "add_mat_bar_set", "add_mounting_part",
+    "add_set", "add_steelmat", "add_straight_rodstock", "end_document", "set_double_wall_gap",
+    "set_project_data", "set_slab_info_fields", "set_thicknesses", "start_order", "summary",
+    # Reading.
+    "Circle", "Contour", "File", "Line", "Order", "Piece", "Polygon", "ReadError", "plant_meanings", "read",
+    "read_bytes",
+    # Reading: made from the table of meanings when first used (__getattr__).
+    *_plant.NAMES,
+    "__version__",
 ]
 
-PROJECT_TEXT_COUNT = 19
-DATE_INDEX = 16
-MOUNTING_PART = 3
-BRACED_GIRDERS = 5
+
+def __getattr__(name):
+    # The classes whose fields are the table's names, made on first use.
+    if name in _plant.NAMES:
+        return _plant.classes().by_name[name]
+    raise AttributeError("module %r has no attribute %r" % (__name__, name))
+
+
+def __dir__():
+    # What the module holds, and the classes made on first use.
+    return sorted(set(globals()) | set(__all__))
+
+
+_PROJECT_TEXT_COUNT = 19
+_DATE_INDEX = 16
+_MOUNTING_PART = 3
+_BRACED_GIRDERS = 5
 
 
 # The checks: each takes the argument's name for its message.
 
 def _integer(name, value, bits, signed=True):
-    if isinstance(value, bool) or not isinstance(value, numbers.Integral):
+    if isinstance(value, bool) or not isinstance(value, _numbers.Integral):
         raise ValueError("%s: %r is not an integer" % (name, value))
     low, high = (-(1 << (bits - 1)), (1 << (bits - 1)) - 1) if signed else (0, (1 << bits) - 1)
     if not low <= value <= high:
@@ -64,7 +115,7 @@ def _uint16(name, value):
 
 
 def _real(name, value):
-    if isinstance(value, bool) or not isinstance(value, numbers.Real):
+    if isinstance(value, bool) or not isinstance(value, _numbers.Real):
         raise ValueError("%s: %r is not a number" % (name, value))
     return float(value)
 
@@ -90,12 +141,12 @@ def _date(name, value):
     units = value.encode("utf-16-le", "surrogatepass")
     value = "".join(chr(units[i] | units[i + 1] << 8) for i in range(0, len(units), 2))
     parts = (value[0:2], value[3:5], value[6:10])
-    if len(value) < 6 or not all(re.match(r"[ \t\n\v\f\r]*[+-]?[0-9]", part) for part in parts):
+    if len(value) < 6 or not all(_re.match(r"[ \t\n\v\f\r]*[+-]?[0-9]", part) for part in parts):
         raise ValueError("%s: %r is not a date dd.mm.yyyy" % (name, value))
 
 
 def _sequence(name, value, length=None):
-    if isinstance(value, (str, bytes)) or not isinstance(value, Sequence):
+    if isinstance(value, (str, bytes)) or not isinstance(value, _Sequence):
         raise ValueError("%s: %r is not a sequence" % (name, value))
     if length is not None and len(value) != length:
         raise ValueError("%s: %d items, where %d belong" % (name, len(value), length))
@@ -120,12 +171,12 @@ def _points(name, points, most):
 
 def _int32_array(values):
     # Never a null pointer, also for no values.
-    return (ctypes.c_int32 * max(len(values), 1))(*values)
+    return (_ctypes.c_int32 * max(len(values), 1))(*values)
 
 
 # The blocks and the records a host states as a whole.
 
-@dataclass
+@_dataclass
 class ProjectData:
     """The order's texts, project, addresses and date, as setProjectData takes them."""
 
@@ -151,19 +202,19 @@ class ProjectData:
 
     def texts(self):
         """The 19 texts in the order of the block."""
-        return [getattr(self, field.name) for field in fields(self)]
+        return [getattr(self, field.name) for field in _fields(self)]
 
 
-@dataclass
+@_dataclass
 class Cutout:
     """An opening: ItCutoutBlock and its points."""
 
     name: str
     value: float
-    points: Sequence[Tuple[int, int]]
+    points: _Sequence[_Tuple[int, int]]
 
 
-@dataclass
+@_dataclass
 class FreeFormSegment:
     """One segment of a free-form bar: ItFreeFormSegment."""
 
@@ -171,13 +222,13 @@ class FreeFormSegment:
     angle: int
 
 
-@dataclass
+@_dataclass
 class Bar:
     """A loose bar: ItBarBlock. A straight bar takes the designation, sizes,
     position, rotation, kind and aux_sixth; a free-form bar takes everything."""
 
     designation: str
-    position: Tuple[int, int] = (0, 0)
+    position: _Tuple[int, int] = (0, 0)
     position_z: int = 0
     first_size: int = 0
     second_size: int = 0
@@ -193,13 +244,13 @@ class Bar:
     bending_code: int = 0  # 2: the segments make the free form
 
 
-@dataclass
+@_dataclass
 class BracedGirder:
     """One braced girder: the ten numbers of a group of add_set's kind 5."""
 
     type_number: int
     first_size: int
-    position: Tuple[int, int]
+    position: _Tuple[int, int]
     position_z: int = 0
     rotation: int = 0
     aux_number: int = 0
@@ -222,8 +273,8 @@ def _bar_block(name, bar, segment_count):
     x, y = _int32s(name + ".position", bar.position, 2)
     texts = (_text(name + ".extra_designation", bar.extra_designation), _text(name + ".designation", bar.designation))
     block = _library.BarBlock(
-        extraDesignation=ctypes.cast(texts[0], _library.Text),
-        designation=ctypes.cast(texts[1], _library.Text),
+        extraDesignation=_ctypes.cast(texts[0], _library.Text),
+        designation=_ctypes.cast(texts[1], _library.Text),
         auxFourth=_int32(name + ".aux_fourth", bar.aux_fourth),
         auxFifth=_int32(name + ".aux_fifth", bar.aux_fifth),
         auxSixth=_int32(name + ".aux_sixth", bar.aux_sixth),
@@ -253,7 +304,7 @@ def start_order(order_value, element_number, placement, version, element_text, e
         numbers_.extend(_real("placement[%d][%d]" % (i, j), v)
                         for j, v in enumerate(_sequence("placement[%d]" % i, point, 3)))
     arguments = (_uint16("order_value", order_value), _int32("element_number", element_number),
-                 (ctypes.c_double * 9)(*numbers_), _uint16("version", version),
+                 (_ctypes.c_double * 9)(*numbers_), _uint16("version", version),
                  _text("element_text", element_text), _real("element_measure", element_measure),
                  _flag("clear_document", clear_document))
     _library.library().startOrder(*arguments)
@@ -262,8 +313,8 @@ def start_order(order_value, element_number, placement, version, element_text, e
 def end_document(path):
     """Writes every order to path. False only for a stream unhealthy from the
     start: a file that cannot be created is not reported."""
-    if isinstance(path, os.PathLike):
-        path = os.fspath(path)
+    if isinstance(path, _os.PathLike):
+        path = _os.fspath(path)
     text = _text("path", path)
     return _library.library().endDocument(text) == 1
 
@@ -274,11 +325,11 @@ def set_project_data(texts):
     if isinstance(texts, ProjectData):
         texts = texts.texts()
     _sequence("texts", texts)
-    if len(texts) != PROJECT_TEXT_COUNT:
-        raise ValueError("texts: %d texts, where setProjectData takes %d" % (len(texts), PROJECT_TEXT_COUNT))
+    if len(texts) != _PROJECT_TEXT_COUNT:
+        raise ValueError("texts: %d texts, where setProjectData takes %d" % (len(texts), _PROJECT_TEXT_COUNT))
     arrays = [_text("texts[%d]" % i, t) for i, t in enumerate(texts)]
-    _date("texts[%d]" % DATE_INDEX, texts[DATE_INDEX])
-    block = (_library.Text * PROJECT_TEXT_COUNT)(*(ctypes.cast(a, _library.Text) for a in arrays))
+    _date("texts[%d]" % _DATE_INDEX, texts[_DATE_INDEX])
+    block = (_library.Text * _PROJECT_TEXT_COUNT)(*(_ctypes.cast(a, _library.Text) for a in arrays))
     _library.library().setProjectData(block)
 
 
@@ -321,9 +372,9 @@ def add_cutout(cutout):
         raise ValueError("cutout: %r is not a Cutout" % (cutout,))
     flat = _points("cutout.points", cutout.points, 0xFFFF)
     name = _text("cutout.name", cutout.name)
-    block = _library.CutoutBlock(cutoutName=ctypes.cast(name, _library.Text),
+    block = _library.CutoutBlock(cutoutName=_ctypes.cast(name, _library.Text),
                                  cutoutValue=_real("cutout.value", cutout.value), pointCount=len(flat) // 2)
-    _library.library().addCutout(ctypes.byref(block), _int32_array(flat))
+    _library.library().addCutout(_ctypes.byref(block), _int32_array(flat))
 
 
 def add_set(set_kind, set_name, values):
@@ -333,9 +384,9 @@ def add_set(set_kind, set_name, values):
     them so."""
     kind = _int32("set_kind", set_kind)
     numbers_ = _int32s("values", values)
-    if kind == MOUNTING_PART and (len(numbers_) < 2 or (len(numbers_) - 2) % 4 != 0):
+    if kind == _MOUNTING_PART and (len(numbers_) < 2 or (len(numbers_) - 2) % 4 != 0):
         raise ValueError("values: %d values; a mounted part takes 2 and then 4 per piece" % len(numbers_))
-    if kind == BRACED_GIRDERS and len(numbers_) % 10 != 0:
+    if kind == _BRACED_GIRDERS and len(numbers_) % 10 != 0:
         raise ValueError("values: %d values; braced girders take 10 each" % len(numbers_))
     return _add_set(kind, _text("set_name", set_name), numbers_)
 
@@ -351,7 +402,7 @@ def add_mounting_part(name, set_value1, set_value2, pieces=()):
     for i, piece in enumerate(_sequence("pieces", pieces)):
         for j, point in enumerate(_sequence("pieces[%d]" % i, piece, 2)):
             values.extend(_int32s("pieces[%d][%d]" % (i, j), point, 2))
-    return _add_set(MOUNTING_PART, text, values)
+    return _add_set(_MOUNTING_PART, text, values)
 
 
 def add_braced_girders(designation, girders):
@@ -362,7 +413,7 @@ def add_braced_girders(designation, girders):
         if not isinstance(girder, BracedGirder):
             raise ValueError("girders[%d]: %r is not a BracedGirder" % (i, girder))
         values.extend(girder.values("girders[%d]" % i))
-    return _add_set(BRACED_GIRDERS, text, values)
+    return _add_set(_BRACED_GIRDERS, text, values)
 
 
 def add_steelmat(name, first_dimension, second_dimension, first_flag, second_flag, mat_kind, position):
@@ -397,7 +448,7 @@ def add_cfs_rodstock(rod_kind, designation, first_size, second_size, position, t
 def add_straight_rodstock(bar):
     """A loose straight bar of the element, given as a Bar."""
     block, _texts = _bar_block("bar", bar, 0)
-    _library.library().addStraightRodstock(ctypes.byref(block))
+    _library.library().addStraightRodstock(_ctypes.byref(block))
 
 
 def add_free_form_rodstock(bar, segments=()):
@@ -416,7 +467,7 @@ def add_free_form_rodstock(bar, segments=()):
         entries[i].length = _int32(name + ".length", length)
         entries[i].angle = _integer(name + ".angle", angle, 16)
     block, _texts = _bar_block("bar", bar, len(segments))
-    _library.library().addFreeFormRodstock(ctypes.byref(block), entries)
+    _library.library().addFreeFormRodstock(_ctypes.byref(block), entries)
 
 
 def add_ext_iron(iron_code, iron_count, iron_value, iron_text):
@@ -437,6 +488,75 @@ def summary():
         return _library.read_text(text) if text else ""
     finally:
         library.freeFullReinforcementString(text)
+
+
+# Writing by the plant's names: each name is looked up in the reading
+# library's table, which says which member of the record it fills.
+
+# The fields of Bar that add_straight_rodstock leaves unwritten (the
+# free-form cells), and add_free_form_rodstock writes.
+_FREE_FORM_ONLY = ("extra_designation", "aux_first", "aux_fourth", "aux_fifth")
+
+
+def _segments_by_names(segments):
+    legs = []
+    for i, segment in enumerate(_sequence("segments", segments)):
+        if _dataclasses.is_dataclass(segment) and not isinstance(segment, FreeFormSegment):
+            segment = _dataclasses.asdict(segment)
+        if isinstance(segment, dict):
+            leg = _plant.fill("BendingFormSegment", segment, [f.name for f in _fields(FreeFormSegment)],
+                              "segments[%d]" % i)
+            segment = FreeFormSegment(**{"length": 0, "angle": 0, **leg})
+        legs.append(segment)
+    return legs
+
+
+def add_bar_set(segments=(), **values):
+    """A loose bar set of the current element by the plant's names of a bar
+    record: count, diameter, length, pitch, x, y, z, rotation, grade,
+    article, spacer_type, spacer_start and spacer_pitch (plant_meanings()
+    lists them with their members and units). Names left out are 0 or empty;
+    the other fields of Bar that no name fills (rod_kind, mounted) may be
+    given too. segments, each a FreeFormSegment, a (length, angle) pair or
+    the plant's names of a segment (length, turn), make a bar bent by a free
+    form. A straight set goes through add_straight_rodstock, unless its
+    article or spacer values need add_free_form_rodstock, the call that
+    writes them."""
+    arguments = _plant.fill("Rodstock", values, [f.name for f in _fields(Bar)], "a bar set")
+    bar = Bar(**{"designation": "", **arguments})
+    legs = _segments_by_names(segments)
+    if legs:
+        if "bending_code" not in arguments:
+            bar.bending_code = 2
+        add_free_form_rodstock(bar, legs)
+    elif any(getattr(bar, name) != getattr(Bar(""), name) for name in _FREE_FORM_ONLY):
+        add_free_form_rodstock(bar)
+    else:
+        add_straight_rodstock(bar)
+
+
+def add_mat_bar_set(**values):
+    """A bar set of the mat added last, by the plant's names of a bar record
+    (as add_bar_set; x and y from the mat's origin), through
+    add_cfs_rodstock, whose other arguments (rod_kind, mounted, flags_code)
+    may be given too. Returns what add_cfs_rodstock returns."""
+    parameters = [name for name in _inspect.signature(add_cfs_rodstock).parameters]
+    arguments = _plant.fill("Rodstock", values, parameters, "a mat's bar set")
+    defaults = {"rod_kind": 0, "designation": "", "first_size": 0, "second_size": 0, "position": (0, 0)}
+    return add_cfs_rodstock(**{**defaults, **arguments})
+
+
+def add_girder_group(**values):
+    """A group of braced girders of the current element by the plant's names
+    of a girder record: count, type, length, spacing, x, y, rotation,
+    height, chord_diameter, weight (written to the thousandth, as the file
+    carries it) and installation_height. Through add_set's kind 5; True
+    when added."""
+    fields = [f.name for f in _fields(BracedGirder)] + ["designation"]
+    arguments = _plant.fill("BracedGirder", values, fields, "a girder group")
+    designation = arguments.pop("designation", "")
+    girder = BracedGirder(**{"type_number": 0, "first_size": 0, "position": (0, 0), **arguments})
+    return add_braced_girders(designation, [girder])
 
 
 class Document:
@@ -491,4 +611,7 @@ class Document:
     add_straight_rodstock = staticmethod(add_straight_rodstock)
     add_free_form_rodstock = staticmethod(add_free_form_rodstock)
     add_ext_iron = staticmethod(add_ext_iron)
+    add_bar_set = staticmethod(add_bar_set)
+    add_mat_bar_set = staticmethod(add_mat_bar_set)
+    add_girder_group = staticmethod(add_girder_group)
     summary = staticmethod(summary)

@@ -4,7 +4,8 @@ The library is looked for, in this order: the file named by the environment
 variable ITUNITECHNIK_LIBRARY; a copy beside this package (itunitechnik.dll,
 libitunitechnik.so or one of its versioned names); the system's loader, by
 the name the library was built with (libitunitechnik.so.<major>, or
-itunitechnik.dll on Windows).
+itunitechnik.dll on Windows). The reading library (_reading.py) is found the
+same ways, through find().
 
 Texts are zero-terminated 16-bit code units on every platform, so they are
 built as arrays of c_uint16 and never as c_wchar_p, which is 32 bits wide on
@@ -22,12 +23,16 @@ ENVIRONMENT_VARIABLE = "ITUNITECHNIK_LIBRARY"
 _HERE = os.path.dirname(os.path.abspath(__file__))
 _MAJOR = __version__.split(".")[0]
 
-if sys.platform == "win32":
-    _BESIDE = ("itunitechnik.dll",)
-    _SYSTEM = "itunitechnik.dll"
-else:
-    _BESIDE = ("libitunitechnik.so." + _MAJOR, "libitunitechnik.so")
-    _SYSTEM = "libitunitechnik.so." + _MAJOR
+
+def names(base):
+    """The names a library of the project has beside the package and for the
+    system's loader: (names beside, name for the loader)."""
+    if sys.platform == "win32":
+        return (base + ".dll",), base + ".dll"
+    return ("lib%s.so.%s" % (base, _MAJOR), "lib%s.so" % base), "lib%s.so.%s" % (base, _MAJOR)
+
+
+_BESIDE, _SYSTEM = names("itunitechnik")
 
 Char16 = ctypes.c_uint16
 Text = ctypes.POINTER(Char16)
@@ -108,18 +113,34 @@ PROTOTYPES = {
 }
 
 
-def candidates():
-    """The paths and names tried, in order."""
+def candidates(variable=ENVIRONMENT_VARIABLE, beside=_BESIDE, system=_SYSTEM):
+    """The paths and names tried, in order: the environment variable's file,
+    the copies beside the package, the name for the system's loader."""
     found = []
-    named = os.environ.get(ENVIRONMENT_VARIABLE)
+    named = os.environ.get(variable)
     if named:
         found.append(named)
-    for name in _BESIDE:
+    for name in beside:
         path = os.path.join(_HERE, name)
         if os.path.exists(path):
             found.append(path)
-    found.append(_SYSTEM)
+    found.append(system)
     return found
+
+
+def find(base, variable):
+    """The first of the places of candidates() that loads, for the library
+    named base (libBASE.so.<major>, BASE.dll); OSError names every place
+    tried."""
+    beside, system = names(base)
+    tried = []
+    for candidate in candidates(variable, beside, system):
+        try:
+            return ctypes.CDLL(candidate)
+        except OSError as error:
+            tried.append("%s (%s)" % (candidate, error))
+    raise OSError("the %s library was not found; set %s to its path. Tried: %s"
+                  % (base, variable, "; ".join(tried)))
 
 
 _loaded = []
@@ -134,20 +155,17 @@ def library():
 
 
 def _load():
-    tried = []
-    for candidate in candidates():
-        try:
-            library = ctypes.CDLL(candidate)
-        except OSError as error:
-            tried.append("%s (%s)" % (candidate, error))
-            continue
-        for name, (result, arguments) in PROTOTYPES.items():
-            function = getattr(library, name)
-            function.restype = result
-            function.argtypes = arguments
-        return library
-    raise OSError("the itunitechnik library was not found; set %s to its path. Tried: %s"
-                  % (ENVIRONMENT_VARIABLE, "; ".join(tried)))
+    library = find("itunitechnik", ENVIRONMENT_VARIABLE)
+    declare(library, PROTOTYPES)
+    return library
+
+
+def declare(library, prototypes):
+    """Gives each export of prototypes its result and argument types."""
+    for name, (result, arguments) in prototypes.items():
+        function = getattr(library, name)
+        function.restype = result
+        function.argtypes = arguments
 
 
 def text(value):

@@ -8,6 +8,8 @@
 //   BindingTests.exe documents EXPECTED-DIRECTORY C-EXAMPLE-FILE WORK-DIRECTORY
 //       the example slab, byte for byte as the C example host writes it, and
 //       the golden scenarios of tests/functional, through every export
+//   BindingTests.exe reading ... and reading-errors ...
+//       the reading side (ReadingTests.cs)
 
 using System;
 using System.Collections.Generic;
@@ -20,7 +22,7 @@ using System.Text;
 using ItUnitechnik;
 using ItUnitechnik.Interop;
 
-static class BindingTests
+static partial class BindingTests
 {
     static int passed;
     static int failed;
@@ -31,9 +33,16 @@ static class BindingTests
             Layout(args[1], args[2]);
         } else if (args.Length == 4 && args[0] == "documents") {
             Documents(args[1], args[2], args[3]);
+        } else if (args.Length == 7 && args[0] == "reading") {
+            Reading(args[1], args[2], args[3], args[4], args[5], int.Parse(args[6]));
+        } else if (args.Length == 4 && args[0] == "reading-errors") {
+            ReadingErrors(args[1], args[2], args[3]);
         } else {
             Console.Error.WriteLine("usage: BindingTests.exe layout LAYOUT-PROGRAM EXPORT-LIST");
             Console.Error.WriteLine("       BindingTests.exe documents EXPECTED-DIRECTORY C-EXAMPLE-FILE WORK-DIRECTORY");
+            Console.Error.WriteLine("       BindingTests.exe reading EXPECTED-DIRECTORY C-EXAMPLE-FILE TOOL GENERATOR "
+                + "WORK-DIRECTORY COUNT");
+            Console.Error.WriteLine("       BindingTests.exe reading-errors HEADER EXPECTED-DIRECTORY WORK-DIRECTORY");
             return 2;
         }
         Console.WriteLine("{0} passed, {1} failed", passed, failed);

@@ -1,13 +1,15 @@
-"""Where the package finds the library: the environment variable first, then
-beside the package, then the system's loader; and what it says when it finds
-none."""
+"""Where the package finds the library, and the reading library: the
+environment variable first, then beside the package, then the system's
+loader; and what it says when it finds none."""
 import os
 import pathlib
 import shutil
+import subprocess
+import sys
 
 import unitechnik
 from unitechnik import _library
-from conftest import run_python
+from conftest import needs_reading, run_python
 
 WRITE = """
 import sys, unitechnik
@@ -54,3 +56,46 @@ def test_no_library_found(tmp_path):
 
 def test_version_is_the_projects():
     assert unitechnik.__version__ == os.environ["UNITECHNIK_TEST_VERSION"]
+
+
+# The reading library is found the same ways.
+
+READ = """
+import sys, unitechnik
+from unitechnik import _reading
+print(len(unitechnik.read(sys.argv[-1]).orders))
+print(_reading.library()._name)
+"""
+
+
+@needs_reading
+def test_the_environment_variable_names_the_reading_library():
+    from unitechnik import _reading
+    _reading.library()
+    assert _reading.library()._name == os.environ["ITUNITECHNIK_READING_LIBRARY"]
+
+
+@needs_reading
+def test_the_reading_library_beside_the_package(tmp_path, c_example):
+    package = tmp_path / "unitechnik"
+    shutil.copytree(pathlib.Path(unitechnik.__file__).parent, package)
+    beside = package / ("libitunitechnik_reading.so." + unitechnik.__version__.split(".")[0])
+    shutil.copy(os.environ["ITUNITECHNIK_READING_LIBRARY"], beside)
+    env = environment_without_the_library(PYTHONPATH=str(tmp_path))
+    del env["ITUNITECHNIK_READING_LIBRARY"]
+    result = subprocess.run([sys.executable, "-c", READ, str(c_example)], env=env, capture_output=True, text=True)
+    assert result.returncode == 0, result.stderr
+    assert result.stdout.split("\n") == ["1", str(beside), ""]
+
+
+@needs_reading
+def test_no_reading_library_found(tmp_path, c_example):
+    package = tmp_path / "unitechnik"
+    shutil.copytree(pathlib.Path(unitechnik.__file__).parent, package)
+    missing = tmp_path / "missing.so"
+    env = environment_without_the_library(PYTHONPATH=str(tmp_path), ITUNITECHNIK_READING_LIBRARY=str(missing))
+    result = subprocess.run([sys.executable, "-c", READ, str(c_example)], env=env, capture_output=True, text=True)
+    assert result.returncode != 0
+    assert ("OSError: the itunitechnik_reading library was not found; set ITUNITECHNIK_READING_LIBRARY"
+            in result.stderr)
+    assert str(missing) in result.stderr and "libitunitechnik_reading.so." in result.stderr
