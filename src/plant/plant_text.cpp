@@ -38,7 +38,7 @@ std::string Kilograms(double value)
 {
     char buffer[64];
     const auto result = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, 2);
-    return std::string(buffer, result.ptr);
+    return {buffer, result.ptr};
 }
 
 std::string Trimmed(const std::wstring& text)
