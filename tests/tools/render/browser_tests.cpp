@@ -113,6 +113,28 @@ void Render(const std::string& slab, const std::string& output, const std::strin
 // Where a point of the slab (in mm, y up) lands on the screenshot.
 using Mapping = std::function<Point(Point)>;
 
+// Where a point of the drawing lands on the screenshot of an SVG shown alone:
+// an SVG without a size fills the window, its viewBox fitted in and centred.
+// The viewBox is checked on its own in the SVG's tests; here it is read back
+// from the file the browser showed.
+Mapping SvgMapping(const std::string& svg, int width, int height)
+{
+    const std::string text = ReadFileBytes(svg);
+    const std::size_t found = text.find("viewBox=\"");
+    std::vector<double> box;
+    if (found != std::string::npos) {
+        box = NumbersOf(text.substr(found + 9, text.find('"', found + 9) - found - 9).c_str());
+    }
+    if (box.size() != 4 || box[2] <= 0 || box[3] <= 0) {
+        ADD_FAILURE() << "no viewBox in " << svg;
+        return [](Point p) { return p; };
+    }
+    const double scale = std::min(width / box[2], height / box[3]);
+    const double left = (width - box[2] * scale) / 2;
+    const double top = (height - box[3] * scale) / 2;
+    return [=](Point p) { return Point{left + (p.x - box[0]) * scale, top + (-p.y - box[1]) * scale}; };
+}
+
 // The colour found within `reach` pixels across a thin line at `at`, the
 // nearest to `wanted`: a bar a few pixels wide covers at least one pixel.
 Colour Across(const PngImage& image, Point at, bool vertical, int reach, Colour wanted)
@@ -220,18 +242,7 @@ TEST_F(Browser, TheSvgShowsTheSlabWithItsOpeningAndBars)
     const PngImage image = Screenshot(svg, folder_ + "/slab.svg.png", width, height);
     ASSERT_EQ(image.Width(), width);
 
-    // An SVG without a size fills the window; its viewBox is fitted in and
-    // centred. The viewBox is checked on its own in the SVG's tests: here
-    // it is read back from the file the browser showed.
-    std::string text = ReadFileBytes(svg);
-    const std::size_t found = text.find("viewBox=\"");
-    ASSERT_NE(found, std::string::npos);
-    const std::vector<double> box = NumbersOf(text.substr(found + 9, text.find('"', found + 9) - found - 9).c_str());
-    ASSERT_EQ(box.size(), 4u);
-    const double scale = std::min(width / box[2], height / box[3]);
-    const double left = (width - box[2] * scale) / 2;
-    const double top = (height - box[3] * scale) / 2;
-    const Mapping to = [&](Point p) { return Point{left + (p.x - box[0]) * scale, top + (-p.y - box[1]) * scale}; };
+    const Mapping to = SvgMapping(svg, width, height);
 
     // The fill seen by the browser spans the outline where the viewBox puts
     // it, within the outline's own stroke.
@@ -297,15 +308,7 @@ TEST_F(Browser, ASetOfFiveBarsIsDrawnAsFiveBarsAtTheirPitch)
     const int height = 1600;
     const PngImage image = Screenshot(svg, folder_ + "/set.svg.png", width, height);
     ASSERT_EQ(image.Width(), width);
-    const std::string text = ReadFileBytes(svg);
-    const std::size_t found = text.find("viewBox=\"");
-    ASSERT_NE(found, std::string::npos);
-    const std::vector<double> box = NumbersOf(text.substr(found + 9, text.find('"', found + 9) - found - 9).c_str());
-    ASSERT_EQ(box.size(), 4u);
-    const double scale = std::min(width / box[2], height / box[3]);
-    const double left = (width - box[2] * scale) / 2;
-    const double top = (height - box[3] * scale) / 2;
-    const Mapping to = [&](Point p) { return Point{left + (p.x - box[0]) * scale, top + (-p.y - box[1]) * scale}; };
+    const Mapping to = SvgMapping(svg, width, height);
     const auto at = [&](double x, double y) {
         const Point p = to({x, y});
         return image.At(static_cast<int>(p.x), static_cast<int>(p.y));
