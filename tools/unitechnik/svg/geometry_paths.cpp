@@ -15,8 +15,6 @@ namespace ItUnitechnik::Drawing {
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
-
 PointD PointOf(const Point2d& point)
 {
     return {static_cast<double>(point.x), static_cast<double>(point.y)};
