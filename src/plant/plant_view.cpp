@@ -1,5 +1,7 @@
 #include "plant/plant_view.h"
 
+#include "geometry/point.h"
+
 #include <cmath>
 
 namespace ItUnitechnik::Plant {
@@ -11,8 +13,8 @@ BarSet BarSetOf(const Rodstock& bar, Origin origin)
     set.diameter = kBar.diameter(bar);
     set.length = kBar.length(bar);
     set.pitch = kBar.pitch(bar);
-    set.x = origin.x + kBar.x(bar);
-    set.y = origin.y + kBar.y(bar);
+    set.x = WrappingAdd(origin.x, kBar.x(bar));
+    set.y = WrappingAdd(origin.y, kBar.y(bar));
     set.z = kBar.z(bar);
     set.rotation = kBar.rotation(bar);
     set.grade = kBar.grade(bar);
@@ -36,8 +38,8 @@ GirderGroup GirderGroupOf(const BracedGirder& girder, Origin origin)
     group.count = kGirder.count(girder);
     group.type = kGirder.type(girder);
     group.length = kGirder.length(girder);
-    group.x = origin.x + kGirder.x(girder);
-    group.y = origin.y + kGirder.y(girder);
+    group.x = WrappingAdd(origin.x, kGirder.x(girder));
+    group.y = WrappingAdd(origin.y, kGirder.y(girder));
     group.spacing = kGirder.spacing(girder);
     group.rotation = kGirder.rotation(girder);
     group.height = kGirder.height(girder);

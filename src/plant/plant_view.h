@@ -9,7 +9,8 @@
 // The records as the plant reads them: bar sets, girder groups, mats, parts
 // and layers by their meanings, every value taken through the table of
 // plant_meanings.h. Coordinates are the element's millimetres: the bars and
-// girders of a mat are moved by the mat's origin here, once.
+// girders of a mat are moved by the mat's origin here, once, with the 32-bit
+// wrap-around of all arithmetic on coordinates.
 namespace ItUnitechnik::Plant {
 
 struct PlanPoint {

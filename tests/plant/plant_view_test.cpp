@@ -159,6 +159,19 @@ TEST(MatOf, PutsItsBarsAndGirdersAtTheMatsOrigin)
     EXPECT_EQ(MatLine(view), "5800 \u00d7 2200 mm at (100, 150), z 35");
 }
 
+TEST(MatOf, AnOriginFarOutWrapsAroundIn32BitsAsAllCoordinatesDo)
+{
+    Steelmat mat;
+    mat.positionX = 2147483647;
+    mat.positionY = -2147483647;
+    mat.rodstocks.bars = {BarRecord(1, 6, 100, 0, 11581, -10, 0)};
+    const Mat view = MatOf(mat);
+    // 2147483647 + 11581 = 2147495228, less 2^32; -2147483647 - 10 likewise
+    // plus 2^32.
+    EXPECT_EQ(view.bars.at(0).x, -2147472068);
+    EXPECT_EQ(view.bars.at(0).y, 2147483639);
+}
+
 TEST(GirderGroupOf, ReadsTheGroupFromTheTenValues)
 {
     BracedGirder girder;

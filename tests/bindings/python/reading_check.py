@@ -74,10 +74,19 @@ def assert_same(actual, expected, where="$"):
         assert actual == expected, "%s: %r against %r" % (where, actual, expected)
 
 
+def native_env():
+    """The environment for a program of this build run from the tests: under
+    the sanitizers python runs with their shared runtime preloaded, and a
+    program that links its own would refuse to start beside it."""
+    env = dict(os.environ)
+    env.pop("LD_PRELOAD", None)
+    return env
+
+
 def tool_json(tool, command, path):
     """The tool's JSON of command (dump or bom) for the file at path, and
     its exit status and standard error."""
-    run = subprocess.run([str(tool), command, "--json", str(path)], capture_output=True)
+    run = subprocess.run([str(tool), command, "--json", str(path)], capture_output=True, env=native_env())
     return json.loads(run.stdout), run.returncode, run.stderr.decode("utf-8", "replace")
 
 

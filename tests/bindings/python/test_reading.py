@@ -13,7 +13,7 @@ import pytest
 
 import unitechnik
 from conftest import needs_reading
-from reading_check import assert_same, check_file, plain
+from reading_check import assert_same, check_file, native_env, plain
 
 pytestmark = needs_reading
 
@@ -49,12 +49,13 @@ def test_the_golden_files_are_there(expected):
 @pytest.fixture(scope="module")
 def generated_files(tool, generator, tmp_path_factory):
     folder = tmp_path_factory.mktemp("generated")
-    subprocess.run([str(generator), str(folder), str(SEED), str(SCRIPTS)], check=True, capture_output=True)
+    subprocess.run([str(generator), str(folder), str(SEED), str(SCRIPTS)], check=True, capture_output=True,
+                   env=native_env())
     files = []
     for script in sorted(folder.glob("*.json")):
         output = script.with_suffix(".uni")
         run = subprocess.run([str(tool), "build", script.name, "-o", output.name], cwd=str(folder),
-                             capture_output=True, text=True)
+                             capture_output=True, text=True, env=native_env())
         assert run.returncode == 0, run.stderr
         files.append(output)
     assert len(files) == SCRIPTS
