@@ -268,8 +268,10 @@ GirderPaths GirderDrawing(PointD start, double direction, double length)
     GirderPaths paths;
     paths.chords =
         PolylinePath({side(start, half), side(end, half)}) + " " + PolylinePath({side(start, -half), side(end, -half)});
-    // The diagonals of the lattice, one every 100 mm or so.
-    const int steps = std::max(1, static_cast<int>(std::lround(std::fabs(length) / 100.0)));
+    // The diagonals of the lattice, one every 100 mm or so, and no more than
+    // a hundred however long the girder.
+    const double perLength = std::fabs(length) / 100.0;
+    const int steps = perLength >= 100.0 ? 100 : std::max(1, static_cast<int>(std::lround(perLength)));
     std::vector<PointD> lattice;
     for (int i = 0; i <= steps; ++i) {
         const PointD onAxis = Along(start, direction, length * i / steps);

@@ -87,20 +87,27 @@ PointD Drawn(const Plant::PlanPoint& point)
     return {point.x, point.y};
 }
 
-// A set of more bars than this is drawn with its first ones: a count that
-// no plant would make must not hold the drawing up.
-constexpr std::int32_t kMostDrawn = 100000;
+// A set or group is drawn with its first members up to these bounds: counts
+// and legs that no plant would make must not hold the drawing up. A set of
+// 10 000 straight bars is drawn whole; a bent one with fewer, so that no set
+// makes more than the points below.
+constexpr std::int32_t kMostBars = 10000;
+constexpr std::size_t kMostPointsOfASet = 400000;
+constexpr std::int32_t kMostGirders = 1000;
 
-std::int32_t DrawnCount(std::int32_t count)
+std::int32_t DrawnBars(const Plant::BarSet& set)
 {
-    return std::clamp(count, 0, kMostDrawn);
+    const std::size_t pointsOfABar = set.legs.size() + 1;
+    const auto byPoints = static_cast<std::int32_t>(std::max<std::size_t>(1, kMostPointsOfASet / pointsOfABar));
+    return std::clamp(set.count, 0, std::min(kMostBars, byPoints));
 }
 
 // Each bar of the set in plan.
 template <class Visit>
 void ForEachBar(const Plant::BarSet& set, Visit visit)
 {
-    for (std::int32_t i = 0; i < DrawnCount(set.count); ++i) {
+    const std::int32_t drawn = DrawnBars(set);
+    for (std::int32_t i = 0; i < drawn; ++i) {
         std::vector<PointD> points;
         for (const Plant::PlanPoint& point : Plant::BarInPlan(set, i)) {
             points.push_back(Drawn(point));
@@ -113,7 +120,8 @@ void ForEachBar(const Plant::BarSet& set, Visit visit)
 template <class Visit>
 void ForEachGirder(const Plant::GirderGroup& group, Visit visit)
 {
-    for (std::int32_t i = 0; i < DrawnCount(group.count); ++i) {
+    const std::int32_t drawn = std::clamp(group.count, 0, kMostGirders);
+    for (std::int32_t i = 0; i < drawn; ++i) {
         visit(Drawn(Plant::GirderInPlan(group, i).front()));
     }
 }
