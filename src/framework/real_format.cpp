@@ -1,6 +1,8 @@
 #include "framework/real_format.h"
 
+#include "framework/float_chars.h"
 #include <algorithm>
+
 #include <charconv>
 #include <cmath>
 #include <string>
@@ -35,13 +37,13 @@ std::string Digits(double value, const std::ios_base& str)
         char* first = text.data();
         char* last = text.data() + text.size();
         if (floatfield == std::ios_base::fixed) {
-            result = std::to_chars(first, last, value, std::chars_format::fixed, precision);
+            result = FloatChars(first, last, value, std::chars_format::fixed, precision);
         } else if (floatfield == std::ios_base::scientific) {
-            result = std::to_chars(first, last, value, std::chars_format::scientific, precision);
+            result = FloatChars(first, last, value, std::chars_format::scientific, precision);
         } else if (floatfield == (std::ios_base::fixed | std::ios_base::scientific)) {
-            result = std::to_chars(first, last, value, std::chars_format::hex);
+            result = FloatChars(first, last, value, std::chars_format::hex);
         } else {
-            result = std::to_chars(first, last, value, std::chars_format::general, precision == 0 ? 1 : precision);
+            result = FloatChars(first, last, value, std::chars_format::general, precision == 0 ? 1 : precision);
         }
         if (result.ec == std::errc()) {
             text.resize(static_cast<std::size_t>(result.ptr - first));
@@ -117,7 +119,7 @@ std::size_t FixedCharacters(double value, int precision, bool showpoint, char* o
         return 0;
     }
     const std::to_chars_result result =
-        std::to_chars(out, out + capacity, value, std::chars_format::fixed, precision < 0 ? 6 : precision);
+        FloatChars(out, out + capacity, value, std::chars_format::fixed, precision < 0 ? 6 : precision);
     if (result.ec != std::errc()) {
         return 0;
     }

@@ -2,6 +2,8 @@
 
 #include "platform/platform.h"
 
+#include "framework/float_chars.h"
+
 #include <charconv>
 
 namespace ItUnitechnik::Plant {
@@ -37,7 +39,7 @@ std::string Legs(const BarSet& set)
 std::string Kilograms(double value)
 {
     char buffer[64];
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, 2);
+    const auto result = FloatChars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, 2);
     return {buffer, result.ptr};
 }
 

@@ -1,5 +1,7 @@
 #include "reading/field_reader.h"
 
+#include "framework/float_chars.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -271,7 +273,7 @@ double FieldReader::Real(int places, int decimals)
         Fail("a real number with " + std::to_string(decimals) + " decimals");
     }
     double parsed = 0;
-    const auto result = std::from_chars(body.data(), body.data() + body.size(), parsed, std::chars_format::fixed);
+    const auto result = FloatFromChars(body.data(), body.data() + body.size(), parsed, std::chars_format::fixed);
     if (result.ec != std::errc() || result.ptr != body.data() + body.size()) {
         Fail("a real number");
     }

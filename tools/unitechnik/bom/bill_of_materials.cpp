@@ -7,7 +7,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "framework/float_chars.h"
 #include <algorithm>
+
 #include <charconv>
 #include <cmath>
 #include <map>
@@ -26,8 +28,8 @@ double ToGrams(double kilograms)
 std::string Metres(std::int64_t millimetres)
 {
     char buffer[32];
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, static_cast<double>(millimetres) / 1000.0,
-                                      std::chars_format::fixed, 3);
+    const auto result = FloatChars(buffer, buffer + sizeof buffer, static_cast<double>(millimetres) / 1000.0,
+                                   std::chars_format::fixed, 3);
     return std::string(buffer, result.ptr);
 }
 

@@ -3,6 +3,8 @@
 #include "tree/record_fields.h"
 #include "tree/tree_text.h"
 
+#include "framework/float_chars.h"
+
 #include <charconv>
 #include <type_traits>
 
@@ -13,7 +15,7 @@ namespace {
 std::string Shortest(double value)
 {
     char buffer[64];
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+    const auto result = FloatChars(buffer, buffer + sizeof buffer, value);
     return std::string(buffer, result.ptr);
 }
 

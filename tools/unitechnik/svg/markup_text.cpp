@@ -1,5 +1,7 @@
 #include "svg/markup_text.h"
 
+#include "framework/float_chars.h"
+
 #include <charconv>
 #include <cmath>
 
@@ -12,7 +14,7 @@ std::string Number(double value)
         rounded = 0.0;
     }
     char buffer[64];
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, rounded, std::chars_format::fixed);
+    const auto result = FloatChars(buffer, buffer + sizeof buffer, rounded, std::chars_format::fixed);
     return std::string(buffer, result.ptr);
 }
 

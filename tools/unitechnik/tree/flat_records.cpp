@@ -5,7 +5,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "framework/float_chars.h"
 #include <algorithm>
+
 #include <charconv>
 #include <type_traits>
 
@@ -32,7 +34,7 @@ std::string ShownValue(const std::wstring& text)
 std::string ShownValue(double value)
 {
     char buffer[64];
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+    const auto result = FloatChars(buffer, buffer + sizeof buffer, value);
     return std::string(buffer, result.ptr);
 }
 

@@ -8,6 +8,8 @@
 #include "plant/plant_view.h"
 #include "tree/tree_json.h"
 
+#include "framework/float_chars.h"
+
 #include <charconv>
 #include <sstream>
 
@@ -33,7 +35,7 @@ std::string Quoted(const std::wstring& text)
 std::string Number(double value)
 {
     char buffer[64];
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+    const auto result = FloatChars(buffer, buffer + sizeof buffer, value);
     return std::string(buffer, result.ptr);
 }
 

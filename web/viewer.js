@@ -1,0 +1,256 @@
+// The viewer's page: moves a file's bytes into the WebAssembly module and
+// its texts out. Everything the page shows is made by the module (the tool's
+// own C++): the SVG of render, the findings of check, the bill of bom and
+// the record tree of dump --tree. Texts of the file reach the page as text
+// (textContent), never as markup; the one piece of markup is the SVG, which
+// render writes with every text of the file escaped, and which is parsed as
+// SVG (not HTML) and checked to hold no script before it is shown.
+'use strict';
+
+(function () {
+    const $ = (id) => document.getElementById(id);
+    let viewer = null;   // the module, once it has started
+    let lines = [];      // the file's lines, for the findings
+
+    function text(pointer) {
+        const length = viewer._utw_length();
+        return new TextDecoder('utf-8').decode(viewer.HEAPU8.subarray(pointer, pointer + length));
+    }
+
+    function status(message, fine) {
+        const p = $('status');
+        p.textContent = message;
+        p.className = fine ? 'fine' : '';
+        p.hidden = message === '';
+    }
+
+    function clear(node) {
+        while (node.firstChild) {
+            node.removeChild(node.firstChild);
+        }
+    }
+
+    function element(tag, className, content) {
+        const node = document.createElement(tag);
+        if (className) {
+            node.className = className;
+        }
+        if (content !== undefined) {
+            node.textContent = content;
+        }
+        return node;
+    }
+
+    // The SVG of render, parsed as SVG: no script, no element from outside.
+    function showDrawing(svgText) {
+        const holder = $('drawing');
+        clear(holder);
+        if (svgText === '') {
+            holder.appendChild(element('p', '', 'The file holds no element to draw.'));
+            return;
+        }
+        const parsed = new DOMParser().parseFromString(svgText, 'image/svg+xml');
+        const root = parsed.documentElement;
+        if (root.nodeName !== 'svg' || parsed.getElementsByTagName('parsererror').length > 0) {
+            holder.appendChild(element('p', '', 'The drawing could not be shown.'));
+            return;
+        }
+        for (const bad of Array.from(root.querySelectorAll('script, foreignObject, iframe, image, use, a'))) {
+            bad.remove();
+        }
+        for (const node of Array.from(root.querySelectorAll('*'))) {
+            for (const attribute of Array.from(node.attributes)) {
+                if (/^on/i.test(attribute.name) || /href$/i.test(attribute.name)) {
+                    node.removeAttribute(attribute.name);
+                }
+            }
+        }
+        holder.appendChild(document.importNode(root, true));
+    }
+
+    function showLine(number) {
+        const pre = $('file-line');
+        const at = number - 1;
+        const shown = [];
+        for (let i = Math.max(0, at - 2); i <= Math.min(lines.length - 1, at + 2); ++i) {
+            shown.push((i === at ? '> ' : '  ') + String(i + 1).padStart(6) + ' | ' + lines[i]);
+        }
+        pre.textContent = shown.length > 0 ? shown.join('\n') : 'Line ' + number + ' is not in the file.';
+        pre.hidden = false;
+    }
+
+    function showFindings(json) {
+        const list = $('findings');
+        clear(list);
+        $('file-line').hidden = true;
+        let findings = [];
+        try {
+            findings = json === '' ? [] : JSON.parse(json);
+        } catch (e) {
+            findings = [];
+        }
+        $('finding-count').textContent = '(' + findings.length + ')';
+        if (findings.length === 0) {
+            list.appendChild(element('li', '', 'Nothing found.'));
+            return;
+        }
+        for (const finding of findings) {
+            const item = element('li');
+            const button = element('button');
+            button.type = 'button';
+            button.appendChild(element('span', '', 'line ' + finding.line + ':' + finding.column + ' '));
+            button.appendChild(element('span', 'code', finding.code + ' ' + finding.name));
+            button.appendChild(element('span', '', ' ' + finding.message));
+            button.addEventListener('click', () => showLine(finding.line));
+            item.appendChild(button);
+            list.appendChild(item);
+        }
+    }
+
+    // dump --tree: one line a record, indented by nesting; a record with
+    // records in it folds.
+    function showTree(treeText) {
+        const holder = $('tree');
+        clear(holder);
+        const rows = treeText.split('\n').filter((line) => line !== '');
+        const depthOf = (line) => line.length - line.replace(/^ +/, '').length;
+        const stack = [{ depth: -1, node: holder }];
+        rows.forEach((line, i) => {
+            const depth = depthOf(line);
+            while (stack.length > 1 && stack[stack.length - 1].depth >= depth) {
+                stack.pop();
+            }
+            const parent = stack[stack.length - 1].node;
+            const hasChildren = i + 1 < rows.length && depthOf(rows[i + 1]) > depth;
+            if (hasChildren) {
+                const details = element('details');
+                details.open = stack.length === 1;
+                details.appendChild(element('summary', '', line.trim()));
+                parent.appendChild(details);
+                stack.push({ depth: depth, node: details });
+            } else {
+                parent.appendChild(element('div', 'leaf', line.trim()));
+            }
+        });
+    }
+
+    function showElement(order, elementIndex) {
+        showDrawing(text(viewer._utw_svg(order, elementIndex)));
+    }
+
+    function open(bytes, name) {
+        if (!viewer) {
+            status('The viewer is still starting.', false);
+            return;
+        }
+        const at = viewer._malloc(bytes.length || 1);
+        viewer.HEAPU8.set(bytes, at);
+        const read = viewer._utw_open(at, bytes.length);
+        viewer._free(at);
+        show(read, bytes, name);
+    }
+
+    // The example slab, built by the module from its call script.
+    function openExample() {
+        if (!viewer) {
+            status('The viewer is still starting.', false);
+            return;
+        }
+        const read = viewer._utw_example();
+        const pointer = viewer._utw_bytes();
+        show(read, viewer.HEAPU8.slice(pointer, pointer + viewer._utw_length()), 'slab.uni');
+    }
+
+    function show(read, bytes, name) {
+        $('file-name').textContent = name;
+        lines = new TextDecoder('latin1').decode(bytes).split(/\r?\n/);
+
+        if (read === 0) {
+            status('', true);
+        } else if (read === 1) {
+            const stop = JSON.parse(text(viewer._utw_stop()));
+            status(name + ':' + stop.line + ':' + stop.column + ': ' + stop.message +
+                   ' (what was read before is shown)', false);
+        } else {
+            status(name + ': the file could not be read.', false);
+        }
+
+        const places = JSON.parse(text(viewer._utw_elements()));
+        const select = $('element');
+        clear(select);
+        places.forEach((place, i) => {
+            const option = element('option', '', place.heading);
+            option.value = String(i);
+            select.appendChild(option);
+        });
+        $('element-label').hidden = places.length < 2;
+        select.onchange = () => {
+            const place = places[Number(select.value)];
+            showElement(place.order, place.element);
+        };
+        if (places.length > 0) {
+            showElement(places[0].order, places[0].element);
+        } else {
+            showDrawing('');
+        }
+
+        const nameBytes = new TextEncoder().encode(name + '\0');
+        const namePointer = viewer._malloc(nameBytes.length);
+        viewer.HEAPU8.set(nameBytes, namePointer);
+        showFindings(text(viewer._utw_check_json(namePointer)));
+        viewer._free(namePointer);
+        $('bill').textContent = text(viewer._utw_bom_text());
+        showTree(text(viewer._utw_tree()));
+        $('content').hidden = false;
+    }
+
+    function openFile(file) {
+        file.arrayBuffer().then(
+            (buffer) => open(new Uint8Array(buffer), file.name),
+            () => status(file.name + ': the file could not be read.', false));
+    }
+
+    $('file-input').addEventListener('change', (event) => {
+        const file = event.target.files[0];
+        if (file) {
+            openFile(file);
+        }
+        event.target.value = '';
+    });
+    document.addEventListener('dragover', (event) => {
+        event.preventDefault();
+        document.body.classList.add('dropping');
+    });
+    document.addEventListener('dragleave', () => document.body.classList.remove('dropping'));
+    document.addEventListener('drop', (event) => {
+        event.preventDefault();
+        document.body.classList.remove('dropping');
+        const file = event.dataTransfer.files[0];
+        if (file) {
+            openFile(file);
+        }
+    });
+    $('example').addEventListener('click', openExample);
+
+    status('Starting…', true);
+    UnitechnikViewer().then((module) => {
+        viewer = module;
+        status('', true);
+        // ?file=NAME: a file beside the page, from the same server.
+        const wanted = new URLSearchParams(window.location.search).get('file');
+        if (wanted) {
+            const url = new URL(wanted, window.location.href);
+            if (url.origin !== window.location.origin) {
+                status('?file= must name a file on this server.', false);
+                return;
+            }
+            fetch(url).then((response) => {
+                if (!response.ok) {
+                    throw new Error(String(response.status));
+                }
+                return response.arrayBuffer();
+            }).then((buffer) => open(new Uint8Array(buffer), url.pathname.split('/').pop()),
+                (error) => status(wanted + ': could not be fetched (' + error.message + ')', false));
+        }
+    }, (error) => status('The viewer could not start: ' + error, false));
+}());
