@@ -1,9 +1,8 @@
 #include "check/record_findings.h"
 
-#include "geometry/arc.h"
-#include "geometry/circle.h"
 #include "geometry/line_segment.h"
 #include "geometry/polygon.h"
+#include "plant/plan_box.h"
 #include "plant/plant_view.h"
 #include "records/element/element_part.h"
 #include "tree/tree_json.h"
@@ -119,23 +118,7 @@ namespace {
 
 using Plant::PlanPoint;
 
-// A box in the element's millimetres; empty until widened.
-struct PlanBox {
-    double minX = std::numeric_limits<double>::infinity();
-    double minY = std::numeric_limits<double>::infinity();
-    double maxX = -std::numeric_limits<double>::infinity();
-    double maxY = -std::numeric_limits<double>::infinity();
-
-    bool Empty() const { return minX > maxX; }
-
-    void Widen(PlanPoint point)
-    {
-        minX = std::min(minX, point.x);
-        minY = std::min(minY, point.y);
-        maxX = std::max(maxX, point.x);
-        maxY = std::max(maxY, point.y);
-    }
-};
+using Plant::PlanBox;
 
 // The file holds whole millimetres, and a bar turned by other than a quarter
 // ends between two of them: half a millimetre beyond a box is still in it.
@@ -147,56 +130,10 @@ bool Beyond(PlanPoint point, const PlanBox& box)
            point.y > box.maxY + kTolerance;
 }
 
-PlanPoint At(const Point2d& point)
-{
-    return {static_cast<double>(point.x), static_cast<double>(point.y)};
-}
-
-// The box of one piece of an outline: an arc by the part of its circle it
-// runs through, not by the whole circle.
-void WidenByPiece(PlanBox& box, const Curve& curve)
-{
-    if (const auto* circle = dynamic_cast<const Circle*>(&curve)) {
-        const PlanPoint centre = At(circle->centre);
-        const double radius = std::abs(static_cast<double>(circle->radius));
-        const auto on = [&](std::int64_t degrees) {
-            const PlanPoint along = Plant::Direction(static_cast<double>(degrees));
-            box.Widen({centre.x + radius * along.x, centre.y + radius * along.y});
-        };
-        std::int64_t start = 0;
-        std::int64_t sweep = 360;
-        if (const auto* arc = dynamic_cast<const Arc*>(circle)) {
-            start = Plant::kArc.start(*arc);
-            sweep = ((static_cast<std::int64_t>(Plant::kArc.end(*arc)) - start) % 360 + 360) % 360;
-            if (sweep == 0) {
-                sweep = 360; // an end equal to the start: the whole circle
-            }
-        }
-        on(start);
-        on(start + sweep);
-        // Counter-clockwise from the start: each quarter of the circle it passes.
-        for (std::int64_t quarter = 0; quarter < 360; quarter += 90) {
-            if (((quarter - start) % 360 + 360) % 360 < sweep) {
-                on(quarter);
-            }
-        }
-    } else if (const auto* line = dynamic_cast<const LineSegment*>(&curve)) {
-        box.Widen(At(line->start));
-        box.Widen(At(line->end));
-    } else if (const auto* polygon = dynamic_cast<const Polygon*>(&curve)) {
-        for (const Point2d& point : polygon->points) {
-            box.Widen(At(point));
-        }
-    }
-}
-
+// Widens the box by what an outline covers.
 void WidenByOutline(PlanBox& box, const std::vector<GeoData>& pieces)
 {
-    for (const GeoData& piece : pieces) {
-        if (piece.curve != nullptr) {
-            WidenByPiece(box, *piece.curve);
-        }
-    }
+    box.Widen(Plant::OutlineBox(pieces));
 }
 
 // Millimetres as the file holds them, or to a tenth between them.
@@ -445,8 +382,8 @@ private:
         for (Steelmat& mat : block.mats) {
             const Plant::Mat view = Plant::MatOf(mat);
             PlanBox area;
-            area.Widen({static_cast<double>(view.x), static_cast<double>(view.y)});
-            area.Widen({static_cast<double>(view.x) + view.length, static_cast<double>(view.y) + view.width});
+            area.Widen(PlanPoint{static_cast<double>(view.x), static_cast<double>(view.y)});
+            area.Widen(PlanPoint{static_cast<double>(view.x) + view.length, static_cast<double>(view.y) + view.width});
             Bars(mat.rodstocks, {view.x, view.y}, &area);
             Girders(mat.girders, {view.x, view.y});
         }

@@ -153,13 +153,6 @@ void AddPiece(PathBuilder& path, const Curve* curve)
     }
 }
 
-void WidenByCircle(BoxD& box, const Circle& circle)
-{
-    const double r = static_cast<double>(circle.radius);
-    box.Widen(PointD{circle.centre.x - r, circle.centre.y - r});
-    box.Widen(PointD{circle.centre.x + r, circle.centre.y + r});
-}
-
 } // namespace
 
 bool SamePoint(PointD a, PointD b)
@@ -167,40 +160,10 @@ bool SamePoint(PointD a, PointD b)
     return std::fabs(a.x - b.x) < 0.5 && std::fabs(a.y - b.y) < 0.5;
 }
 
-void BoxD::Widen(PointD point)
-{
-    minX = std::min(minX, point.x);
-    minY = std::min(minY, point.y);
-    maxX = std::max(maxX, point.x);
-    maxY = std::max(maxY, point.y);
-}
-
-void BoxD::Widen(const BoxD& other)
-{
-    if (!other.Empty()) {
-        Widen(PointD{other.minX, other.minY});
-        Widen(PointD{other.maxX, other.maxY});
-    }
-}
-
 PointD Along(PointD from, double degrees, double length)
 {
     const Plant::PlanPoint along = Plant::Direction(degrees);
     return {from.x + length * along.x, from.y + length * along.y};
-}
-
-PointD CirclePoint(const Circle& circle, double degrees)
-{
-    return Along(PointOf(circle.centre), degrees, static_cast<double>(circle.radius));
-}
-
-double ArcSweep(std::int32_t startAngle, std::int32_t endAngle)
-{
-    double sweep = std::fmod(static_cast<double>(endAngle) - static_cast<double>(startAngle), 360.0);
-    if (sweep <= 0.0) {
-        sweep += 360.0;
-    }
-    return sweep;
 }
 
 std::string OutlinePath(const std::vector<GeoData>& pieces)
@@ -210,44 +173,6 @@ std::string OutlinePath(const std::vector<GeoData>& pieces)
         AddPiece(path, piece.curve.get());
     }
     return path.Data();
-}
-
-BoxD OutlineBox(const std::vector<GeoData>& pieces)
-{
-    BoxD box;
-    for (const GeoData& piece : pieces) {
-        if (const auto* arc = dynamic_cast<const Arc*>(piece.curve.get())) {
-            if (arc->radius <= 0) {
-                continue;
-            }
-            const double start = static_cast<double>(Plant::kArc.start(*arc));
-            const double sweep = ArcSweep(Plant::kArc.start(*arc), Plant::kArc.end(*arc));
-            box.Widen(CirclePoint(*arc, start));
-            box.Widen(CirclePoint(*arc, start + sweep));
-            // The quarter points that the arc passes.
-            for (int quarter = 0; quarter < 4; ++quarter) {
-                double past = std::fmod(90.0 * quarter - start, 360.0);
-                if (past < 0.0) {
-                    past += 360.0;
-                }
-                if (past <= sweep) {
-                    box.Widen(CirclePoint(*arc, 90.0 * quarter));
-                }
-            }
-        } else if (const auto* circle = dynamic_cast<const Circle*>(piece.curve.get())) {
-            if (circle->radius > 0) {
-                WidenByCircle(box, *circle);
-            }
-        } else if (const auto* line = dynamic_cast<const LineSegment*>(piece.curve.get())) {
-            box.Widen(PointOf(line->start));
-            box.Widen(PointOf(line->end));
-        } else if (const auto* polygon = dynamic_cast<const Polygon*>(piece.curve.get())) {
-            for (const Point2d& point : polygon->points) {
-                box.Widen(PointOf(point));
-            }
-        }
-    }
-    return box;
 }
 
 std::string PolylinePath(const std::vector<PointD>& points)

@@ -2,8 +2,8 @@
 
 #include "geometry/circle.h"
 #include "geometry/geo_data.h"
+#include "plant/plan_box.h"
 
-#include <limits>
 #include <string>
 #include <vector>
 
@@ -13,37 +13,20 @@
 // runs) comes from the table in plant/plant_meanings.h.
 namespace ItUnitechnik::Drawing {
 
-struct PointD {
-    double x = 0.0;
-    double y = 0.0;
-};
+// The plan's points and boxes, as the plant's geometry has them.
+using PointD = Plant::PlanPoint;
+using BoxD = Plant::PlanBox;
 
 // Two points closer than half a millimetre on both axes are one.
 bool SamePoint(PointD a, PointD b);
-
-struct BoxD {
-    double minX = std::numeric_limits<double>::infinity();
-    double minY = std::numeric_limits<double>::infinity();
-    double maxX = -std::numeric_limits<double>::infinity();
-    double maxY = -std::numeric_limits<double>::infinity();
-
-    bool Empty() const { return minX > maxX || minY > maxY; }
-    double Width() const { return Empty() ? 0.0 : maxX - minX; }
-    double Height() const { return Empty() ? 0.0 : maxY - minY; }
-    void Widen(PointD point);
-    void Widen(const BoxD& other);
-};
 
 // The point `length` away from `from` in the direction `degrees`,
 // counter-clockwise from the x axis. Quarter turns are exact.
 PointD Along(PointD from, double degrees, double length);
 
-// The point of a circle at `degrees`, counter-clockwise from the x axis.
-PointD CirclePoint(const Circle& circle, double degrees);
-
-// How far an arc runs from its start, in degrees: (end - start) taken into
-// (0, 360]; an end equal to the start is the whole circle.
-double ArcSweep(std::int32_t startAngle, std::int32_t endAngle);
+using Plant::ArcSweep;
+using Plant::CirclePoint;
+using Plant::OutlineBox;
 
 // The pieces of one outline as SVG path data, in order. A piece that begins
 // where the one before ended goes on from there (a straight piece or an arc
@@ -51,10 +34,6 @@ double ArcSweep(std::int32_t startAngle, std::int32_t endAngle);
 // run that comes back to its first point is closed. Pieces without a curve
 // or with no radius are left out.
 std::string OutlinePath(const std::vector<GeoData>& pieces);
-
-// The box of what OutlinePath draws: an arc by its own extent, not that of
-// its whole circle.
-BoxD OutlineBox(const std::vector<GeoData>& pieces);
 
 // "M x y L x y ..." through the points.
 std::string PolylinePath(const std::vector<PointD>& points);
