@@ -3,10 +3,10 @@
 // exports, every file a call would write going to /dev/null. A script the
 // tool refuses is refused with BadInput; any other exception is a finding,
 // since the tool would then end without telling the user what is wrong.
+#include "build/call_table.h"
+#include "build/script.h"
 #include "exports/document.h"
-#include "json_input.h"
-#include "script/call_table.h"
-#include "script/script.h"
+#include "input/json_input.h"
 #include "sub_command.h"
 
 #include <cstddef>

@@ -7,7 +7,7 @@
 #include "plant/plant_meanings.h"
 #include "plant/plant_text.h"
 #include "plant/plant_view.h"
-#include "svg/element_places.h"
+#include "tree/element_places.h"
 
 namespace ItUnitechnik::Reading {
 

@@ -4,7 +4,7 @@
 #include "itunitechnik_reading.h"
 
 #include "bom/bill_of_materials.h"
-#include "files.h"
+#include "files/files.h"
 #include "plant_json.h"
 #include "reading/tolerant_reading.h"
 #include "tree/tree_json.h"

@@ -8,19 +8,19 @@
 // bytes. A text that cannot be made (one too large for the module's memory)
 // is given as an empty text.
 #include "bom/bill_of_materials.h"
+#include "build/runner.h"
+#include "build/script.h"
 #include "check/file_check.h"
-#include "check/findings.h"
-#include "document_input.h"
+#include "dump/tree_text.h"
 #include "example_slab.h"
-#include "files.h"
-#include "json_input.h"
+#include "files/files.h"
+#include "findings/findings.h"
+#include "input/document_input.h"
+#include "input/json_input.h"
 #include "reading/tolerant_reading.h"
-#include "script/runner.h"
-#include "script/script.h"
-#include "svg/element_places.h"
-#include "svg/scene.h"
-#include "svg/svg_document.h"
-#include "tree/tree_text.h"
+#include "render/scene.h"
+#include "render/svg_document.h"
+#include "tree/element_places.h"
 
 #include <nlohmann/json.hpp>
 

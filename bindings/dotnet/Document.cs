@@ -132,8 +132,10 @@ namespace ItUnitechnik
         }
 
         // The library reads the date by position, dd.mm.yyyy, each part as a
-        // decimal number that may have blanks and a sign in front; a text too
-        // short or a part without a digit would end the host's process.
+        // decimal number that may have blanks and a sign in front. A text too
+        // short or a part without a digit ends setProjectData at the first
+        // order without a word, that order half set; setProjectData gives
+        // nothing back, so the rule is checked here, before the call.
         private static bool ReadsAsDate(string date)
         {
             return date.Length >= 6 && ReadsAsNumber(date.Substring(0, 2)) && ReadsAsNumber(date.Substring(3, 2))
@@ -502,16 +504,18 @@ namespace ItUnitechnik
             if (points == null) {
                 throw new ArgumentNullException(parameter);
             }
-            // The library reads the first point even of an empty outline.
-            if (points.Count < 1 || points.Count > most) {
-                throw new ArgumentException("an outline takes 1 to " + most + " points", parameter);
+            // One point or none make an outline of no pieces, as the library
+            // adds it; the count must fit the export's.
+            if (points.Count > most) {
+                throw new ArgumentException("an outline takes at most " + most + " points", parameter);
             }
             return points;
         }
 
         private static int[] Flatten(IList<Point> points)
         {
-            var values = new int[points.Count * 2];
+            // Never an empty array: the export is given a pointer even when it reads none.
+            var values = new int[Math.Max(points.Count * 2, 1)];
             for (int i = 0; i < points.Count; ++i) {
                 values[2 * i] = points[i].X;
                 values[2 * i + 1] = points[i].Y;

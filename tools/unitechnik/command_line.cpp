@@ -1,6 +1,6 @@
 #include "command_line.h"
 
-#include "unicode.h"
+#include "text/unicode.h"
 
 #include "itunitechnik_version.h"
 
@@ -48,6 +48,7 @@ std::vector<std::string> Utf8Arguments(int argc, char** argv)
         LocalFree(wide);
     }
 #else
+    arguments.reserve(static_cast<std::size_t>(argc));
     for (int i = 0; i < argc; ++i) {
         arguments.emplace_back(argv[i]);
     }
@@ -130,11 +131,15 @@ std::string Usage(const CommandDescription& command)
 {
     std::string usage = "unitechnik " + command.name;
     for (const OptionDescription& option : command.options) {
-        std::string text = option.names.front() + (option.value.empty() ? "" : " " + option.value);
-        if (!option.positional && !option.required) {
-            text = "[" + text + "]";
+        const bool optional = !option.positional && !option.required;
+        usage += optional ? " [" : " ";
+        usage += option.names.front();
+        if (!option.value.empty()) {
+            usage += " ";
+            usage += option.value;
         }
-        usage += " " + text + (option.repeated ? "..." : "");
+        usage += optional ? "]" : "";
+        usage += option.repeated ? "..." : "";
     }
     return usage;
 }
@@ -181,6 +186,7 @@ int RunCommandLine(const std::vector<SubCommandMaker>& subCommands, int argc, ch
 
     const std::vector<std::string> arguments = Utf8Arguments(argc, argv);
     std::vector<const char*> pointers;
+    pointers.reserve(arguments.size());
     for (const std::string& argument : arguments) {
         pointers.push_back(argument.c_str());
     }

@@ -1,6 +1,6 @@
 // unitechnik: the command-line tool. Its sub-commands stand in commands.cpp.
 #include "command_line.h"
-#include "commands.h"
+#include "commands/commands.h"
 
 int main(int argc, char** argv)
 {

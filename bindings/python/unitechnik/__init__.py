@@ -136,8 +136,11 @@ def _text(name, value):
 
 def _date(name, value):
     """The library reads the date by position, dd.mm.yyyy, each part as a
-    decimal number that may have blanks and a sign in front; a text too short
-    or a part without a digit would end the host's process."""
+    decimal number that may have blanks and a sign in front. A text too short
+    or a part without a digit ends setProjectData at the first order without
+    a word: that order keeps most of its old texts and the orders behind it
+    all of theirs. setProjectData gives nothing back, so the rule is checked
+    here, before the call, to raise instead."""
     units = value.encode("utf-16-le", "surrogatepass")
     value = "".join(chr(units[i] | units[i + 1] << 8) for i in range(0, len(units), 2))
     parts = (value[0:2], value[3:5], value[6:10])
@@ -158,11 +161,12 @@ def _int32s(name, values, length=None):
 
 
 def _points(name, points, most):
-    """An outline's points as one flat list of x and y; the library reads the
-    first point even of an empty outline, so one is the least."""
+    """An outline's points as one flat list of x and y. One point or none
+    make an outline of no pieces, as the library adds it; the count must fit
+    the export's."""
     _sequence(name, points)
-    if not 1 <= len(points) <= most:
-        raise ValueError("%s: %d points, where 1 to %d belong" % (name, len(points), most))
+    if len(points) > most:
+        raise ValueError("%s: %d points, where at most %d belong" % (name, len(points), most))
     flat = []
     for i, point in enumerate(points):
         flat.extend(_int32s("%s[%d]" % (name, i), point, 2))

@@ -2,6 +2,8 @@
 value that does not fit its C type, a text that is not a str or holds a NUL,
 a sequence of the wrong length raise ValueError, and the message begins with
 the argument's name."""
+import ctypes
+
 import pytest
 
 import unitechnik
@@ -102,17 +104,16 @@ case(unitechnik.set_project_data, "texts", [""] * 16 + ["21.11.2026"] + [""])
 case(unitechnik.set_project_data, "texts", "x" * 19)
 case(unitechnik.set_project_data, "texts", [""] * 18 + [None], "texts[18]")
 case(unitechnik.set_project_data, "texts", [""] * 3 + ["a\0"] + [""] * 15, "texts[3]")
-# The date is read by position, dd.mm.yyyy: a text shorter than six
-# characters, or a part without a digit, would end the process in the library.
+# The date is read by position, dd.mm.yyyy: the library stops setProjectData
+# without a word for a text shorter than six characters or a part without a
+# digit (test_a_date_the_library_cannot_read), so the binding raises.
 for date in ("", "1.2.2", "1.2.2024", "01.02.", "  .  .    ", "xx.01.2024", "01.xx.2024", "01.01.-x"):
     case(unitechnik.set_project_data, "texts", [""] * 16 + [date, "", ""], "texts[16]")
-case(unitechnik.add_contour, "points", [])
 case(unitechnik.add_contour, "points", [(0, 0), (0, 0, 0)], "points[1]")
 case(unitechnik.add_contour, "points", [(0, 2 ** 31)], "points[0][1]")
 case(unitechnik.add_contour, "points", None)
 case(unitechnik.add_cutout, "cutout", ((0, 0),))
 case(unitechnik.add_cutout, "cutout", Cutout("C", 1.0, [(0, 0)] * 65536), "cutout.points")
-case(unitechnik.add_cutout, "cutout", Cutout("C", 1.0, []), "cutout.points")
 case(unitechnik.add_cutout, "cutout", Cutout(None, 1.0, [(0, 0)]), "cutout.name")
 case(unitechnik.add_cutout, "cutout", Cutout("C", "1", [(0, 0)]), "cutout.value")
 case(unitechnik.add_set, "values", [0], "values")
@@ -200,3 +201,33 @@ def test_dates_the_library_reads(tmp_path):
         for date in ("31/12/2024", "01.2.2024", " 1.+2. -24", "01.01.20"):
             document.set_project_data(unitechnik.ProjectData(date=date))
     assert (tmp_path / "dates.uni").read_bytes().startswith(b"HEADER__\r\n")
+
+
+def test_a_date_the_library_cannot_read(tmp_path):
+    # Straight to the library: with a date it cannot read, setProjectData
+    # stops without a word and the order's texts behind the date stay unset.
+    def written(date):
+        path = tmp_path / ("%s.uni" % len(date))
+        with unitechnik.Document(path) as document:
+            document.start_order(1, 1, FLAT, 600, "E", 1.0)
+            texts = [""] * 16 + [date, "", "Text behind the date"]
+            arrays = [_library.text(text) for text in texts]
+            block = (_library.Text * len(arrays))(*(ctypes.cast(a, _library.Text) for a in arrays))
+            _library.library().setProjectData(block)
+        return path.read_bytes()
+
+    assert b"Text behind the date" in written("21.11.2026")
+    assert b"Text behind the date" not in written("1.2")
+
+
+def test_outlines_of_no_points(tmp_path):
+    # One point or none: an outline of no pieces, as the library adds it.
+    with unitechnik.Document(tmp_path / "empty.uni") as document:
+        document.start_order(1, 1, FLAT, 600, "E", 1.0)
+        unitechnik.add_contour([])
+        unitechnik.add_contour([(5, 5)])
+        unitechnik.add_cutout(Cutout("C", 1.0, []))
+    data = (tmp_path / "empty.uni").read_bytes()
+    # Two contours and an opening, each numbered and holding no piece.
+    assert b"CONTOUR_\r\n600\r\n02\r\n01 00 00\r\n\r\n02 00 00\r\n" in data
+    assert b"CUTOUT__\r\n600\r\n01\r\n01 01.000 C " in data

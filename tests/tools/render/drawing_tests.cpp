@@ -7,10 +7,10 @@
 #include "example_documents.h"
 #include "geometry/arc.h"
 #include "geometry/line_segment.h"
+#include "render/field_list.h"
+#include "render/geometry_paths.h"
+#include "render/scene.h"
 #include "support/test_support.h"
-#include "svg/field_list.h"
-#include "svg/geometry_paths.h"
-#include "svg/scene.h"
 
 #include <gtest/gtest.h>
 

@@ -1,13 +1,13 @@
 #include "example_documents.h"
 
+#include "build/runner.h"
+#include "build/script.h"
 #include "exports/document.h"
 #include "geometry/arc.h"
 #include "geometry/line_segment.h"
+#include "input/json_input.h"
 #include "itunitechnik.h"
-#include "json_input.h"
 #include "reading/tolerant_reading.h"
-#include "script/runner.h"
-#include "script/script.h"
 #include "support/test_support.h"
 
 #include <gtest/gtest.h>

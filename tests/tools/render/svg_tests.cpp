@@ -5,11 +5,11 @@
 // records (examples/slab.json) and the drawing's rules, worked out by hand.
 
 #include "example_documents.h"
+#include "render/scene.h"
+#include "render/svg_document.h"
 #include "support/test_support.h"
-#include "svg/element_places.h"
-#include "svg/scene.h"
-#include "svg/svg_document.h"
 #include "svg_reading.h"
+#include "tree/element_places.h"
 
 #include <gtest/gtest.h>
 #include <tinyxml2.h>

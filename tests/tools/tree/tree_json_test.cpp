@@ -2,8 +2,9 @@
 // back into records from that text and written again gives its own bytes; a
 // document that does not fit the records is told by the path of the value.
 
+#include "dump/tree_text.h"
+#include "plant/plant_text.h"
 #include "tree/tree_json.h"
-#include "tree/tree_text.h"
 
 #include "exports/document.h"
 #include "reading/tolerant_reading.h"
@@ -140,9 +141,9 @@ TEST(TreeText, TheOutlineOfTheReinforcedSlab)
 
 TEST(TreeText, TextsAreShownWithoutTheirFill)
 {
-    EXPECT_EQ(Shown(L"   B500  "), "B500");
-    EXPECT_EQ(Shown(L"     "), "");
-    EXPECT_EQ(Shown(L"\u00e4"), "\xc3\xa4");
+    EXPECT_EQ(Plant::Trimmed(L"   B500  "), "B500");
+    EXPECT_EQ(Plant::Trimmed(L"     "), "");
+    EXPECT_EQ(Plant::Trimmed(L"\u00e4"), "\xc3\xa4");
 }
 
 } // namespace

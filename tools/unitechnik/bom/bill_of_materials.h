@@ -91,6 +91,10 @@ ElementBill BillOf(const Order& order, const ElementPart& element);
 // Every element of the document, in file order.
 std::vector<ElementBill> BillOfDocument(const std::vector<Order>& orders);
 
+// The steel and the concrete of every element together, in kg.
+double FileSteelWeight(const std::vector<ElementBill>& bills);
+double FileConcreteMass(const std::vector<ElementBill>& bills);
+
 // A table per kind under a heading per element, the element's totals, and
 // the file's steel weight at the end, for a person.
 std::string BillText(const std::vector<ElementBill>& bills);

@@ -82,7 +82,7 @@ public:
         try {
             return nlohmann::json::parse(text_.substr(first, at_ - first)).get<std::string>();
         } catch (const nlohmann::json::exception&) {
-            return std::string();
+            return {};
         }
     }
 

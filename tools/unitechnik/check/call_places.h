@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/written_places.h"
+#include "tree/written_places.h"
 
 #include <string>
 #include <vector>

@@ -1,9 +1,9 @@
 #include "check/file_check.h"
 
-#include "check/record_findings.h"
-#include "check/written_places.h"
+#include "findings/record_findings.h"
 #include "reading/tolerant_reading.h"
 #include "tree/flat_records.h"
+#include "tree/written_places.h"
 
 #include <algorithm>
 #include <tuple>
@@ -28,8 +28,8 @@ std::vector<Place> BareLineFeeds(const std::string& bytes, const std::vector<std
     std::vector<Place> places;
     std::size_t line = 1;
     std::size_t column = 1;
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        if (bytes[i] == '\n') {
+    for (const char byte : bytes) {
+        if (byte == '\n') {
             if (std::binary_search(lines.begin(), lines.end(), line)) {
                 places.push_back(Place{line, column});
             }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/findings.h"
+#include "findings/findings.h"
 #include "reading/tolerant_reading.h"
 
 #include <optional>

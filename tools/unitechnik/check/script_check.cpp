@@ -1,13 +1,14 @@
 #include "check/script_check.h"
 
+#include "build/script.h"
 #include "check/call_places.h"
-#include "check/record_findings.h"
-#include "check/written_places.h"
 #include "exports/document.h"
-#include "json_input.h"
-#include "script/script.h"
+#include "findings/record_findings.h"
+#include "input/json_input.h"
 #include "sub_command.h"
+#include "text/quoted.h"
 #include "tree/flat_records.h"
+#include "tree/written_places.h"
 
 #include <algorithm>
 #include <map>
@@ -20,20 +21,6 @@ namespace ItUnitechnik::Tool::Check {
 namespace {
 
 using Script::Call;
-
-std::wstring Wide(const HostText& text)
-{
-    std::wstring wide;
-    for (const it_char16 unit : text) {
-        wide += static_cast<wchar_t>(unit);
-    }
-    return wide;
-}
-
-std::string Quoted(const std::string& text)
-{
-    return "\"" + text + "\"";
-}
 
 // The key of a call whose value is the member's, as the tree shows both; the
 // first in the order of the call's keys.

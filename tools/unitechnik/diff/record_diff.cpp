@@ -245,11 +245,6 @@ private:
     std::vector<Change>& out_;
 };
 
-std::string Joined(const std::string& path, const std::string& member)
-{
-    return member.empty() ? path : path + "." + member;
-}
-
 } // namespace
 
 std::vector<Change> Compare(const Side& a, const Side& b)
@@ -271,10 +266,10 @@ std::string ChangeLine(const Change& change, const std::string& fileA, const std
     case Change::Kind::changed:
         break;
     }
-    std::string line = placeA + placeB + "changed " + Joined(change.pathA, change.member) + ": " + change.oldValue +
-                       " -> " + change.newValue;
+    std::string line = placeA + placeB + "changed " + Tree::Joined(change.pathA, change.member) + ": " +
+                       change.oldValue + " -> " + change.newValue;
     if (change.pathB != change.pathA) {
-        line += " (" + Joined(change.pathB, change.member) + " in " + fileB + ")";
+        line += " (" + Tree::Joined(change.pathB, change.member) + " in " + fileB + ")";
     }
     return line;
 }

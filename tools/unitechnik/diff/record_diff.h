@@ -1,7 +1,7 @@
 #pragma once
 
-#include "check/written_places.h"
 #include "tree/flat_records.h"
+#include "tree/written_places.h"
 
 #include <nlohmann/json.hpp>
 

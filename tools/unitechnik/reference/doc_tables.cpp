@@ -1,7 +1,7 @@
 #include "reference/doc_tables.h"
 
-#include "check/findings.h"
-#include "script/call_table.h"
+#include "build/call_table.h"
+#include "findings/findings.h"
 
 #include <cstddef>
 #include <string>
@@ -13,7 +13,8 @@ namespace {
 using Script::KeySpec;
 using Script::ValueKind;
 
-std::string Quoted(const std::string& name)
+// A name as Markdown code.
+std::string InBackticks(const std::string& name)
 {
     return "`" + name + "`";
 }
@@ -65,13 +66,16 @@ std::string Keys(const std::vector<KeySpec>& keys, const char* separator)
     while (i < keys.size()) {
         const std::string kind = KindText(keys[i]);
         const bool groups = keys[i].kind != ValueKind::Block && keys[i].kind != ValueKind::Blocks;
-        std::string names = Quoted(keys[i].name);
+        std::string names = InBackticks(keys[i].name);
         std::size_t next = i + 1;
         while (groups && next < keys.size() && KindText(keys[next]) == kind) {
-            names += ", " + Quoted(keys[next].name);
+            names += ", " + InBackticks(keys[next].name);
             ++next;
         }
-        text += (text.empty() ? "" : separator) + names + " " + kind;
+        text += text.empty() ? "" : separator;
+        text += names;
+        text += " ";
+        text += kind;
         i = next;
     }
     return text.empty() ? "none" : text;
@@ -81,7 +85,7 @@ std::string Notes(const Script::CallSpec& call)
 {
     std::vector<std::string> notes;
     for (const Script::CountedList& counted : call.counted) {
-        std::string note = Quoted(counted.count) + " counts " + Quoted(counted.list);
+        std::string note = InBackticks(counted.count) + " counts " + InBackticks(counted.list);
         if (counted.entriesPerUnit > 1) {
             // "points" counted, "2 integers a point".
             std::string unit = counted.unitName;
@@ -93,10 +97,10 @@ std::string Notes(const Script::CallSpec& call)
         notes.push_back(note);
     }
     if (call.pathKey != nullptr) {
-        notes.push_back(Quoted(call.pathKey) + " names the file it writes");
+        notes.push_back(InBackticks(call.pathKey) + " names the file it writes");
     }
     if (call.check != nullptr) {
-        notes.push_back("checked before the first call runs");
+        notes.emplace_back("checked before the first call runs");
     }
     std::string text;
     for (const std::string& note : notes) {
@@ -112,8 +116,8 @@ std::string CallsTable()
     std::string table = "| Call | Keys and their types | Counts, files, checks |\n|---|---|---|\n";
     for (const Script::CallSpec& call : Script::CallTable()) {
         const std::string notes = Notes(call);
-        table += "| " + Quoted(call.name) + " | " + Keys(call.keys, ", ") + " |" + (notes.empty() ? "" : " " + notes) +
-                 " |\n";
+        table += "| " + InBackticks(call.name) + " | " + Keys(call.keys, ", ") + " |" +
+                 (notes.empty() ? "" : " " + notes) + " |\n";
     }
     return table;
 }

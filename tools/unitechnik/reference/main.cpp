@@ -6,7 +6,7 @@
 //   unitechnik_reference codes [OUTPUT]            the codes of check and convert
 // Without OUTPUT the text goes to standard output.
 #include "command_line.h"
-#include "commands.h"
+#include "commands/commands.h"
 #include "reference/completion.h"
 #include "reference/doc_tables.h"
 #include "reference/manual_page.h"

@@ -56,7 +56,7 @@ std::string ManualPage(const ToolDescription& tool)
     std::string page;
     page += ".\\\" unitechnik(1), written by the build from the tool's own commands and options.\n";
     page +=
-        std::string(".TH UNITECHNIK 1 \"\" \"ItUnitechnik ") + ITUNITECHNIK_VERSION_STRING + "\" \"User Commands\"\n";
+        std::string(R"(.TH UNITECHNIK 1 "" "ItUnitechnik )") + ITUNITECHNIK_VERSION_STRING + "\" \"User Commands\"\n";
     page += ".SH NAME\n";
     page += "unitechnik \\- makes and reads Unitechnik CAD/CAM files through the ItUnitechnik library\n";
 

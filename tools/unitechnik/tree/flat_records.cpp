@@ -1,5 +1,6 @@
 #include "tree/flat_records.h"
 
+#include "platform/platform.h"
 #include "tree/record_fields.h"
 #include "tree/tree_json.h"
 
@@ -17,10 +18,18 @@ namespace {
 
 std::string JsonString(const std::wstring& text)
 {
-    return nlohmann::json(Utf8(text)).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+    return nlohmann::json(Platform::ToUtf8(text)).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
 } // namespace
+
+std::string Joined(const std::string& prefix, const std::string& name)
+{
+    if (prefix.empty() || name.empty()) {
+        return prefix + name;
+    }
+    return prefix + "." + name;
+}
 
 std::string ShownValue(const std::wstring& text)
 {
@@ -35,7 +44,7 @@ std::string ShownValue(double value)
 {
     char buffer[64];
     const auto result = FloatChars(buffer, buffer + sizeof buffer, value);
-    return std::string(buffer, result.ptr);
+    return {buffer, result.ptr};
 }
 
 namespace {
@@ -80,22 +89,17 @@ std::string Shown(const std::vector<int>& numbers)
     return text + "]";
 }
 
-std::string Joined(const std::string& prefix, const char* name)
-{
-    return prefix.empty() ? std::string(name) : prefix + "." + name;
-}
-
 // The curve a piece of outline owns, as its own class.
 template <class Visit>
-void WithCurve(GeoData& element, Visit&& visit)
+void WithCurve(const GeoData& element, Visit&& visit)
 {
-    if (auto* arc = dynamic_cast<Arc*>(element.curve.get())) {
+    if (const auto* arc = dynamic_cast<const Arc*>(element.curve.get())) {
         visit(*arc);
-    } else if (auto* circle = dynamic_cast<Circle*>(element.curve.get())) {
+    } else if (const auto* circle = dynamic_cast<const Circle*>(element.curve.get())) {
         visit(*circle);
-    } else if (auto* line = dynamic_cast<LineSegment*>(element.curve.get())) {
+    } else if (const auto* line = dynamic_cast<const LineSegment*>(element.curve.get())) {
         visit(*line);
-    } else if (auto* polygon = dynamic_cast<Polygon*>(element.curve.get())) {
+    } else if (const auto* polygon = dynamic_cast<const Polygon*>(element.curve.get())) {
         visit(*polygon);
     }
 }
@@ -108,7 +112,7 @@ public:
     }
 
     template <class R>
-    static FlatRecord Entry(std::string path, R& record)
+    static FlatRecord Entry(std::string path, const R& record)
     {
         FlatRecord flat;
         flat.path = std::move(path);
@@ -119,15 +123,15 @@ public:
     }
 
     template <class T>
-    void Field(const char* name, T& value)
+    void Field(const char* name, const T& value)
     {
         Add(name, Shown(value));
     }
 
-    void Numbers(const char* name, std::vector<int>& numbers) { Add(name, Shown(numbers)); }
+    void Numbers(const char* name, const std::vector<int>& numbers) { Add(name, Shown(numbers)); }
 
     template <class R>
-    void Record(const char* name, R& record)
+    void Record(const char* name, const R& record)
     {
         const std::string prefix = Joined(prefix_, name);
         record_.nested.emplace_back(&record, prefix);
@@ -140,24 +144,24 @@ public:
         Fields(inner, record);
     }
 
-    void Curve(const char* name, GeoData& element)
+    void Curve(const char* name, const GeoData& element)
     {
-        WithCurve(element, [&](auto& curve) { this->Record(name, curve); });
+        WithCurve(element, [&](const auto& curve) { this->Record(name, curve); });
     }
 
     template <class R, class Make>
-    void Records(const char* name, std::vector<R>& records, Make)
+    void Records(const char* name, const std::vector<R>& records, Make)
     {
         List(name, records);
     }
 
     template <class A>
-    void FixedRecords(const char* name, A& records)
+    void FixedRecords(const char* name, const A& records)
     {
         List(name, records);
     }
 
-    void Points(const char* name, std::vector<Point2d>& points) { List(name, points); }
+    void Points(const char* name, const std::vector<Point2d>& points) { List(name, points); }
 
 private:
     void Add(const char* name, std::string value)
@@ -172,12 +176,12 @@ private:
     }
 
     template <class S>
-    void List(const char* name, S& records)
+    void List(const char* name, const S& records)
     {
         FlatList list;
         list.name = Joined(prefix_, name);
         std::size_t index = 0;
-        for (auto& record : records) {
+        for (const auto& record : records) {
             list.records.push_back(Entry(record_.path + "." + list.name + "[" + std::to_string(index) + "]", record));
             ++index;
         }
@@ -226,14 +230,14 @@ public:
     }
 
     template <class T>
-    void Field(const char* name, T& value)
+    void Field(const char* name, const T& value)
     {
         if (Here(name) && Last() && !steps_[at_].index) {
             found_ = Shown(value);
         }
     }
 
-    void Numbers(const char* name, std::vector<int>& numbers)
+    void Numbers(const char* name, const std::vector<int>& numbers)
     {
         if (Here(name) && Last() && !steps_[at_].index) {
             found_ = Shown(numbers);
@@ -241,7 +245,7 @@ public:
     }
 
     template <class R>
-    void Record(const char* name, R& record)
+    void Record(const char* name, const R& record)
     {
         if (Here(name) && !Last() && !steps_[at_].index) {
             Seeker inner(steps_, at_ + 1, found_);
@@ -249,27 +253,27 @@ public:
         }
     }
 
-    void Curve(const char* name, GeoData& element)
+    void Curve(const char* name, const GeoData& element)
     {
-        WithCurve(element, [&](auto& curve) { this->Record(name, curve); });
+        WithCurve(element, [&](const auto& curve) { this->Record(name, curve); });
     }
 
     template <class R, class Make>
-    void Records(const char* name, std::vector<R>& records, Make)
+    void Records(const char* name, const std::vector<R>& records, Make)
     {
         List(name, records);
     }
 
     template <class A>
-    void FixedRecords(const char* name, A& records)
+    void FixedRecords(const char* name, const A& records)
     {
         List(name, records);
     }
 
-    void Points(const char* name, std::vector<Point2d>& points) { List(name, points); }
+    void Points(const char* name, const std::vector<Point2d>& points) { List(name, points); }
 
     template <class S>
-    void List(const char* name, S& records)
+    void List(const char* name, const S& records)
     {
         if (!Here(name)) {
             return;
@@ -298,7 +302,7 @@ private:
 
 } // namespace
 
-FlatList Flatten(std::vector<Order>& orders)
+FlatList Flatten(const std::vector<Order>& orders)
 {
     FlatList list;
     list.name = "orders";
@@ -312,7 +316,7 @@ RecordIndex::RecordIndex(const FlatList& orders)
 {
     Add(orders);
     std::stable_sort(entries_.begin(), entries_.end(),
-                     [](const auto& a, const auto& b) { return std::less<const void*>()(a.first, b.first); });
+                     [](const auto& a, const auto& b) { return std::less<>()(a.first, b.first); });
 }
 
 void RecordIndex::Add(const FlatList& list)
@@ -330,17 +334,16 @@ void RecordIndex::Add(const FlatList& list)
 
 std::optional<RecordIndex::Where> RecordIndex::Find(const void* record) const
 {
-    const auto found = std::lower_bound(entries_.begin(), entries_.end(), record,
-                                        [](const std::pair<const void*, Where>& entry, const void* key) {
-                                            return std::less<const void*>()(entry.first, key);
-                                        });
+    const auto found = std::lower_bound(
+        entries_.begin(), entries_.end(), record,
+        [](const std::pair<const void*, Where>& entry, const void* key) { return std::less<>()(entry.first, key); });
     if (found == entries_.end() || found->first != record) {
         return std::nullopt;
     }
     return found->second;
 }
 
-std::optional<std::string> ValueAt(std::vector<Order>& orders, const std::string& path, const std::string& name)
+std::optional<std::string> ValueAt(const std::vector<Order>& orders, const std::string& path, const std::string& name)
 {
     const std::vector<Step> steps = Steps(path + "." + name);
     if (steps.size() < 2 || steps[0].name != "orders" || !steps[0].index || *steps[0].index >= orders.size()) {

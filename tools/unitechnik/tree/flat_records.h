@@ -49,7 +49,7 @@ struct FlatList {
 
 // The orders as the list "orders". The records are not copied: the
 // addresses are those of the objects in `orders`.
-FlatList Flatten(std::vector<Order>& orders);
+FlatList Flatten(const std::vector<Order>& orders);
 
 // Every record of the tree by its object, singly held ones included: the
 // path of the list entry it lies in and the prefix of its members there.
@@ -71,7 +71,12 @@ private:
 // The value of a member as Flatten shows it, found by the path of its record
 // and its name there; a list shows its length. Nothing when there is no such
 // record or member (yet).
-std::optional<std::string> ValueAt(std::vector<Order>& orders, const std::string& path, const std::string& name);
+std::optional<std::string> ValueAt(const std::vector<Order>& orders, const std::string& path, const std::string& name);
+
+// A member's name from a record further out ("position.x" from "position"
+// and "x"), or a record's path and a member of it; either alone when the
+// other is empty.
+std::string Joined(const std::string& prefix, const std::string& name);
 
 // A member's value as Flatten shows it: a text without the blanks around it.
 std::string ShownValue(const std::wstring& text);

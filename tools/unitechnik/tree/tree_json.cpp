@@ -1,8 +1,8 @@
 #include "tree/tree_json.h"
 
 #include "platform/platform.h"
+#include "text/unicode.h"
 #include "tree/record_fields.h"
-#include "unicode.h"
 
 #include <cmath>
 #include <limits>
@@ -17,25 +17,6 @@ TreeError::TreeError(const std::string& path, const std::string& message)
 {
 }
 
-std::string Utf8(const std::wstring& text)
-{
-    return Platform::ToUtf8(text);
-}
-
-std::wstring WideFromUtf8(const std::string& text)
-{
-    // The JSON reader has checked the UTF-8 already; each 16-bit unit is one
-    // wide character, as the exports take a host's text.
-    const std::optional<Tool::HostText> units = Tool::Utf8ToHost(text);
-    std::wstring wide;
-    if (units) {
-        for (const it_char16 unit : *units) {
-            wide += static_cast<wchar_t>(unit);
-        }
-    }
-    return wide;
-}
-
 namespace {
 
 using ordered_json = nlohmann::ordered_json;
@@ -47,65 +28,65 @@ public:
     explicit JsonWriter(ordered_json& out) : out_(out) {}
 
     template <class T>
-    void Field(const char* name, T& value)
+    void Field(const char* name, const T& value)
     {
         out_[name] = Value(value);
     }
 
     template <class R>
-    void Record(const char* name, R& record)
+    void Record(const char* name, const R& record)
     {
         out_[name] = Object(record);
     }
 
     template <class R, class Make>
-    void Records(const char* name, std::vector<R>& records, Make)
+    void Records(const char* name, const std::vector<R>& records, Make)
     {
         ordered_json list = ordered_json::array();
-        for (R& record : records) {
+        for (const R& record : records) {
             list.push_back(Object(record));
         }
         out_[name] = std::move(list);
     }
 
     template <class A>
-    void FixedRecords(const char* name, A& records)
+    void FixedRecords(const char* name, const A& records)
     {
         ordered_json list = ordered_json::array();
-        for (auto& record : records) {
+        for (const auto& record : records) {
             list.push_back(Object(record));
         }
         out_[name] = std::move(list);
     }
 
-    void Points(const char* name, std::vector<Point2d>& points)
+    void Points(const char* name, const std::vector<Point2d>& points)
     {
         ordered_json list = ordered_json::array();
-        for (Point2d& point : points) {
+        for (const Point2d& point : points) {
             list.push_back(Object(point));
         }
         out_[name] = std::move(list);
     }
 
-    void Numbers(const char* name, std::vector<int>& numbers) { out_[name] = numbers; }
+    void Numbers(const char* name, const std::vector<int>& numbers) { out_[name] = numbers; }
 
-    void Curve(const char* name, GeoData& element)
+    void Curve(const char* name, const GeoData& element)
     {
         ordered_json curve;
-        if (auto* arc = dynamic_cast<Arc*>(element.curve.get())) {
+        if (const auto* arc = dynamic_cast<const Arc*>(element.curve.get())) {
             curve = Object(*arc, "Arc");
-        } else if (auto* circle = dynamic_cast<Circle*>(element.curve.get())) {
+        } else if (const auto* circle = dynamic_cast<const Circle*>(element.curve.get())) {
             curve = Object(*circle, "Circle");
-        } else if (auto* line = dynamic_cast<LineSegment*>(element.curve.get())) {
+        } else if (const auto* line = dynamic_cast<const LineSegment*>(element.curve.get())) {
             curve = Object(*line, "LineSegment");
-        } else if (auto* polygon = dynamic_cast<Polygon*>(element.curve.get())) {
+        } else if (const auto* polygon = dynamic_cast<const Polygon*>(element.curve.get())) {
             curve = Object(*polygon, "Polygon");
         }
         out_[name] = std::move(curve);
     }
 
     template <class R>
-    static ordered_json Object(R& record, const char* curveClass = nullptr)
+    static ordered_json Object(const R& record, const char* curveClass = nullptr)
     {
         ordered_json object = ordered_json::object();
         if (curveClass != nullptr) {
@@ -117,8 +98,8 @@ public:
     }
 
 private:
-    static ordered_json Value(const std::wstring& text) { return Utf8(text); }
-    static ordered_json Value(wchar_t character) { return Utf8(std::wstring(1, character)); }
+    static ordered_json Value(const std::wstring& text) { return Platform::ToUtf8(text); }
+    static ordered_json Value(wchar_t character) { return Platform::ToUtf8(std::wstring(1, character)); }
     static ordered_json Value(bool flag) { return flag; }
     static ordered_json Value(double value)
     {
@@ -287,7 +268,7 @@ private:
         if (!given.is_string()) {
             throw TreeError(path, "expected a text");
         }
-        value = WideFromUtf8(given.get<std::string>());
+        value = Tool::WideFromUtf8(given.get<std::string>());
     }
 
     static void Assign(const json& given, const std::string& path, wchar_t& value)
@@ -320,7 +301,7 @@ private:
         } else if (word == "inf" || word == "-inf") {
             value = word == "inf" ? std::numeric_limits<double>::infinity() : -std::numeric_limits<double>::infinity();
         } else {
-            throw TreeError(path, "expected a number, or \"nan\", \"-nan\", \"inf\" or \"-inf\"");
+            throw TreeError(path, R"(expected a number, or "nan", "-nan", "inf" or "-inf")");
         }
     }
 
@@ -356,10 +337,10 @@ private:
 
 } // namespace
 
-nlohmann::ordered_json ToJson(std::vector<Order>& orders)
+nlohmann::ordered_json ToJson(const std::vector<Order>& orders)
 {
     ordered_json list = ordered_json::array();
-    for (Order& order : orders) {
+    for (const Order& order : orders) {
         list.push_back(JsonWriter::Object(order));
     }
     ordered_json document = ordered_json::object();

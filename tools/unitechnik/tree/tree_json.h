@@ -27,16 +27,11 @@ private:
 // {"orders": [...]}: each order with every member; texts as UTF-8, characters
 // as strings of one character, a double that is no number as "nan", "-nan",
 // "inf" or "-inf".
-nlohmann::ordered_json ToJson(std::vector<Order>& orders);
+nlohmann::ordered_json ToJson(const std::vector<Order>& orders);
 
 // The orders of such a document. A member that is missing keeps the record's
 // default; an unknown member, a value of the wrong type or out of its
 // member's range is a TreeError.
 std::vector<Order> FromJson(const nlohmann::json& document);
-
-// Text in both directions: a wide text of 16-bit units to UTF-8, and UTF-8 to
-// 16-bit units in a wide text (a character above U+FFFF as a surrogate pair).
-std::string Utf8(const std::wstring& text);
-std::wstring WideFromUtf8(const std::string& text);
 
 } // namespace ItUnitechnik::Tree
