@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/field_output.h"
+#include "framework/layout.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -22,10 +23,6 @@
 // piece: the same characters as the inserter's, without its general
 // formatting. On any other stream they go through the inserter.
 namespace ItUnitechnik {
-
-// What a text form does to the adjustment: keep the one the field before left
-// in force, or set it.
-enum class Adjust { keep, left, right };
 
 // Every form that carries a value may name the member it writes, as the
 // record names it ("designation", "position.x"); an Archive with a field sink
@@ -319,16 +316,6 @@ struct TagForm {
 };
 TagForm Tag(const char* text);
 std::wostream& operator<<(std::wostream& os, const TagForm& form);
-
-// The collection write: each element, then the line end behind it.
-template <class Stream, class T>
-void WriteElements(Stream& ar, std::vector<T>& elements)
-{
-    for (T& element : elements) {
-        element.Write(ar);
-        ar << EndLine;
-    }
-}
 
 } // namespace ItUnitechnik
 

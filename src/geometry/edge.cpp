@@ -1,7 +1,7 @@
 #include "geometry/edge.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 
 namespace ItUnitechnik {
 
@@ -14,11 +14,7 @@ bool Edge::Read(Archive& ar)
 
 bool Edge::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    first.Write(ar);
-    ar << Blank;
-    second.Write(ar);
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool operator==(const Edge& a, const Edge& b)

@@ -21,4 +21,12 @@ public:
 bool operator==(const Edge& a, const Edge& b);
 bool operator!=(const Edge& a, const Edge& b);
 
+template <class IO>
+void Layout(IO& io, Edge& edge)
+{
+    io.Record(edge.first);
+    io.Blank();
+    io.Record(edge.second);
+}
+
 } // namespace ItUnitechnik

@@ -1,21 +1,11 @@
 #include "geometry/point.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 
 #include <cmath>
 
 namespace ItUnitechnik {
-namespace {
-
-// The old text form has no room for a sign: a negative coordinate of a point
-// is written as 0, the object keeps its value.
-std::int32_t ClampedToZero(std::int32_t value)
-{
-    return value < 0 ? 0 : value;
-}
-
-} // namespace
 
 std::int32_t TruncateToInt32(double value)
 {
@@ -34,9 +24,7 @@ bool Point2d::Read(Archive& ar)
 
 bool Point2d::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(5, ClampedToZero(x), "x") << Blank << UInt(5, ClampedToZero(y), "y");
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 Point2d& Point2d::translate(const Vector2d& delta)
@@ -75,9 +63,7 @@ bool Vector2d::Read(Archive& ar)
 
 bool Vector2d::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(6, x, "x") << Blank << UInt(6, y, "y");
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 void Vector2d::rotate(const double& angle)
@@ -99,9 +85,7 @@ bool Point3d::Read(Archive& ar)
 
 bool Point3d::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(6, x, "x") << Blank << UInt(6, y, "y") << Blank << UInt(6, z, "z");
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool Vector3d::Read(Archive& ar)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/layout.h"
 #include "framework/serializable.h"
 
 #include <cstdint>
@@ -96,5 +97,33 @@ bool operator==(const Point3d& a, const Point3d& b);
 bool operator!=(const Point3d& a, const Point3d& b);
 bool operator==(const Vector3d& a, const Vector3d& b);
 bool operator!=(const Vector3d& a, const Vector3d& b);
+
+// The old text form of a point has no room for a sign: a negative coordinate
+// is written as 0, the point keeps its value.
+template <class IO>
+void Layout(IO& io, Point2d& point)
+{
+    io.UInt(5, NotBelowZero{point.x}, "x");
+    io.Blank();
+    io.UInt(5, NotBelowZero{point.y}, "y");
+}
+
+template <class IO>
+void Layout(IO& io, Vector2d& vector)
+{
+    io.UInt(6, vector.x, "x");
+    io.Blank();
+    io.UInt(6, vector.y, "y");
+}
+
+template <class IO>
+void Layout(IO& io, Point3d& point)
+{
+    io.UInt(6, point.x, "x");
+    io.Blank();
+    io.UInt(6, point.y, "y");
+    io.Blank();
+    io.UInt(6, point.z, "z");
+}
 
 } // namespace ItUnitechnik

@@ -11,16 +11,11 @@ namespace {
 
 using Testing::StringArchive;
 
-// An entry of one field: a number two places wide, on a line of its own.
+// An entry of one field: a number, on a line of its own.
 struct Entry {
     std::int16_t version = 0; // handed on by the list
     std::uint32_t value = 0;
 
-    bool Write(Archive& ar)
-    {
-        ar << UInt(2, value, "value");
-        return Healthy(ar);
-    }
     bool Read(Archive& ar)
     {
         ar >> value;
@@ -28,50 +23,7 @@ struct Entry {
     }
 };
 
-std::vector<Entry> Entries(std::initializer_list<std::uint32_t> values)
-{
-    std::vector<Entry> entries;
-    for (std::uint32_t value : values) {
-        entries.push_back(Entry{0, value});
-    }
-    return entries;
-}
-
-TEST(WriteList, WritesTagVersionCountEntriesAndEnd)
-{
-    StringArchive s;
-    std::vector<Entry> entries = Entries({7, 42});
-    EXPECT_TRUE(WriteList(s.archive, &entries, 600, {"LISTTAG_", 3, "entries"}, entries));
-    EXPECT_EQ(s.Text(), L"LISTTAG_\n600\n002\n07\n42\nEND\n");
-}
-
-TEST(WriteList, TheCountTakesItsOwnWidth)
-{
-    StringArchive s;
-    std::vector<Entry> entries;
-    EXPECT_TRUE(WriteList(s.archive, &entries, 502, {"LISTTAG_", 2, "entries"}, entries));
-    EXPECT_EQ(s.Text(), L"LISTTAG_\n502\n00\nEND\n");
-}
-
-TEST(WritePieces, TheCountEndsNoLineAndEachPieceStandsOnALineOfItsOwn)
-{
-    StringArchive s;
-    std::vector<Entry> pieces = Entries({3, 14, 15});
-    s.archive << Literal("OUTLINE ");
-    WritePieces(s.archive, pieces);
-    EXPECT_EQ(s.Text(), L"OUTLINE 03\n03\n14\n15");
-}
-
-TEST(WritePieces, AnOutlineWithNoPieceStillEndsItsLine)
-{
-    StringArchive s;
-    std::vector<Entry> pieces;
-    s.archive << Literal("OUTLINE ");
-    WritePieces(s.archive, pieces);
-    EXPECT_EQ(s.Text(), L"OUTLINE 00\n");
-}
-
-TEST(ReadList, ReadsWhatWriteListWrote)
+TEST(ReadList, ReadsTagVersionCountEntriesAndEnd)
 {
     StringArchive s(L"LISTTAG_\n601\n002\n07\n42\nEND\n");
     std::int16_t version = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/layout.h"
 #include "framework/serializable.h"
 
 #include <cstdint>
@@ -26,5 +27,25 @@ public:
     double secondFactor = 0.0;       // sixth field
     std::wstring layerText20;        // last field, from version 600 on
 };
+
+template <class IO>
+void Layout(IO& io, ConcreteLayer& layer)
+{
+    io.UInt(2, layer.layerNumber, "layerNumber");
+    io.Blank();
+    io.UInt(2, layer.layerKind, "layerKind");
+    io.Blank();
+    io.UInt(3, layer.layerThickness, "layerThickness");
+    io.Blank();
+    io.Text(layer.version < 600 ? 8 : 20, layer.layerName, "layerName");
+    io.Blank();
+    io.Real(1, 3, layer.firstFactor, "firstFactor");
+    io.Blank();
+    io.Real(5, 1, layer.secondFactor, "secondFactor");
+    if (layer.version >= 600) {
+        io.Blank();
+        io.Text(20, layer.layerText20, "layerText20");
+    }
+}
 
 } // namespace ItUnitechnik

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 #include "geometry/edge.h"
 #include "geometry/point.h"
@@ -102,6 +103,9 @@ public:
     // The version of a new element, given to the element and to each record
     // it holds that has a version of its own (the mats' external irons too).
     void setVersion(std::int16_t newVersion);
+    // Versions up to 500 carry the short lines A and B; the single value 5
+    // counts as above 500 here.
+    bool HasLongLines() const;
 
     std::int16_t version = 502;                // line 2
     std::int16_t elementNumber = 12;           // line A below 600
@@ -188,9 +192,6 @@ private:
     BoundingBox contourBox_;
     std::size_t contourBoxCount_ = 0;
 
-    // Versions up to 500 carry the short lines A and B; the single value 5
-    // counts as above 500 here.
-    bool HasLongLines() const;
     // Reads a nested record that may be absent from 600 on; false when the
     // element must give up.
     bool ReadOptional(Archive& ar, Serializable& record) const;
@@ -198,20 +199,8 @@ private:
     static bool LayerFollows(Archive& ar);
     // Outline and reinforcement records; false when the element must give up.
     bool ReadOutlineAndReinforcement(Archive& ar);
-
-    // The lines of the record, one function a line, in the order they stand.
-    void WriteLineA(Archive& ar);
-    void WriteLineB(Archive& ar);
-    void WritePlasters(Archive& ar);       // 502 only
-    void WriteConcreteLayers(Archive& ar); // from 502
-    void WriteLineC(Archive& ar);
-    void WriteEdges(Archive& ar); // below 503
-    void WriteLineD(Archive& ar);
-    void WriteLineE(Archive& ar);
-    void WriteLineF(Archive& ar);  // from 600
-    void WriteLinesG(Archive& ar); // from 600
-    // Behind "END": the layers, or the outline and reinforcement records.
-    void WriteNestedRecords(Archive& ar);
 };
 
 } // namespace ItUnitechnik
+
+#include "records/element/element_part_layout.h"

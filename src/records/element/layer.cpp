@@ -1,7 +1,7 @@
 #include "records/element/layer.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
@@ -15,29 +15,8 @@ Layer::Layer()
 
 bool Layer::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << Tag("LAYER___");
-    ar << UInt(3, version, "version");
-    ar << EndLine;
-
-    ar << UInt(1, layerValue1, "layerValue1");
-    ar << Blank;
-    ar << UInt(6, layerValue2, "layerValue2");
-    ar << Blank;
-    ar << UInt(6, layerValue3, "layerValue3");
-    ar << Blank;
-    ar << UInt(6, layerValue4, "layerValue4");
-    ar << Blank;
-    ar << UInt(2, lotCount, "lotCount");
-    ar << EndLine;
-
-    ar << Tag("END");
-    for (Lot& lot : lots) {
-        lot.Write(ar);
-    }
-    mountingPartData.Write(ar);
-    reinforcement.Write(ar);
-    ar << Tag("END LAYER___");
+    // A layer reports success whatever the stream says.
+    WriteLayout(ar, *this);
     return true;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 #include "records/order/lot.h"
 #include "records/outline/mounting_part.h"
@@ -47,5 +48,31 @@ public:
     MountingPartData mountingPartData; // behind the lots
     Reinforcement reinforcement;       // behind the mounted parts
 };
+
+template <class IO>
+void Layout(IO& io, Layer& layer)
+{
+    io.Tag("LAYER___");
+    io.UInt(3, layer.version, "version");
+    io.EndLine();
+
+    io.UInt(1, layer.layerValue1, "layerValue1");
+    io.Blank();
+    io.UInt(6, layer.layerValue2, "layerValue2");
+    io.Blank();
+    io.UInt(6, layer.layerValue3, "layerValue3");
+    io.Blank();
+    io.UInt(6, layer.layerValue4, "layerValue4");
+    io.Blank();
+    io.UInt(2, layer.lotCount, "lotCount");
+    io.EndLine();
+
+    io.Tag("END");
+    // The lots stand as they are, whatever the count says.
+    io.Tagged("LOT_____", layer.lots);
+    io.Record(layer.mountingPartData);
+    io.Record(layer.reinforcement);
+    io.Tag("END LAYER___");
+}
 
 } // namespace ItUnitechnik

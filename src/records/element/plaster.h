@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/layout.h"
 #include "framework/serializable.h"
 
 #include <cstdint>
@@ -21,5 +22,17 @@ public:
     double firstValue = 0.0;        // third field
     double secondValue = 0.0;       // last field
 };
+
+template <class IO>
+void Layout(IO& io, Plaster& plaster)
+{
+    io.UInt(3, plaster.plasterNumber, "plasterNumber");
+    io.Blank();
+    io.Text(8, plaster.plasterName, "plasterName");
+    io.Blank();
+    io.Real(1, 3, plaster.firstValue, "firstValue");
+    io.Blank();
+    io.Real(5, 1, plaster.secondValue, "secondValue");
+}
 
 } // namespace ItUnitechnik

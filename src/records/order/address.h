@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/layout.h"
 #include "framework/serializable.h"
 
 #include <string>
@@ -17,5 +18,18 @@ public:
     std::wstring addressText3; // 8 wide
     std::wstring addressText4; // 25 wide
 };
+
+template <class IO>
+void Layout(IO& io, Address& address)
+{
+    io.Text(25, address.addressText1, "addressText1");
+    io.EndLine();
+    io.Text(25, address.addressText2, "addressText2");
+    io.EndLine();
+    io.Text(8, address.addressText3, "addressText3");
+    io.EndLine();
+    io.Text(25, address.addressText4, "addressText4");
+    io.EndLine();
+}
 
 } // namespace ItUnitechnik

@@ -1,7 +1,7 @@
 #include "records/order/date.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 #include <climits>
@@ -80,17 +80,7 @@ bool Date::Read(Archive& ar)
 
 bool Date::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(2, day, "day");
-    ar << Literal(".");
-    ar << UInt(2, month, "month");
-    ar << Literal(".");
-    if (version < 502) {
-        ar << UInt(2, year, "year");
-    } else {
-        ar << UInt(4, year, "year");
-    }
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 } // namespace ItUnitechnik

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/layout.h"
 #include "framework/serializable.h"
 
 #include <cstdint>
@@ -27,5 +28,16 @@ public:
     std::int16_t month = 0;
     std::int16_t year = 0;
 };
+
+// The order ends the date's line.
+template <class IO>
+void Layout(IO& io, Date& date)
+{
+    io.UInt(2, date.day, "day");
+    io.Literal(".");
+    io.UInt(2, date.month, "month");
+    io.Literal(".");
+    io.UInt(date.version < 502 ? 2 : 4, date.year, "year");
+}
 
 } // namespace ItUnitechnik

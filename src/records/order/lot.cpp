@@ -1,7 +1,7 @@
 #include "records/order/lot.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
@@ -16,42 +16,8 @@ Lot::Lot()
 
 bool Lot::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << Tag("LOT_____");
-    ar << UInt(3, version, "version");
-    ar << EndLine;
-
-    ar << UInt(2, lotNumber, "lotNumber");
-    ar << Blank;
-    if (version < 600) {
-        ar << Text(8, lotText, "lotText");
-    } else {
-        ar << Text(20, lotText, "lotText");
-    }
-    ar << Blank;
-    ar << Real(1, 3, lotReal1, "lotReal1");
-    ar << Blank;
-    ar << Text(2, lotCode2, "lotCode2");
-    ar << Blank;
-    ar << Real(2, 3, lotReal2, "lotReal2");
-    ar << Blank;
-    ar << UInt(6, lotValue1, "lotValue1");
-    ar << Blank;
-    ar << UInt(6, lotValue2, "lotValue2");
-    ar << Blank;
-    ar << UInt(6, lotValue3, "lotValue3");
-    ar << Blank;
-    ar << UInt(3, lotValue4, "lotValue4");
-    if (version >= 600) {
-        ar << Blank;
-        ar << Text(20, lotText20, "lotText20");
-    }
-    ar << EndLine;
-
-    ar << Tag("END");
-    contourData.Write(ar);
-    cutoutData.Write(ar);
-    ar << Tag("END LOT_____");
+    // A lot reports success whatever the stream says.
+    WriteLayout(ar, *this);
     return true;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 #include "records/outline/contour.h"
 #include "records/outline/cutout.h"
@@ -50,5 +51,41 @@ public:
     ContourData contourData;    // behind "END"
     CutoutData cutoutData;      // behind the contours
 };
+
+template <class IO>
+void Layout(IO& io, Lot& lot)
+{
+    io.Tag("LOT_____");
+    io.UInt(3, lot.version, "version");
+    io.EndLine();
+
+    io.UInt(2, lot.lotNumber, "lotNumber");
+    io.Blank();
+    io.Text(lot.version < 600 ? 8 : 20, lot.lotText, "lotText");
+    io.Blank();
+    io.Real(1, 3, lot.lotReal1, "lotReal1");
+    io.Blank();
+    io.Text(2, lot.lotCode2, "lotCode2");
+    io.Blank();
+    io.Real(2, 3, lot.lotReal2, "lotReal2");
+    io.Blank();
+    io.UInt(6, lot.lotValue1, "lotValue1");
+    io.Blank();
+    io.UInt(6, lot.lotValue2, "lotValue2");
+    io.Blank();
+    io.UInt(6, lot.lotValue3, "lotValue3");
+    io.Blank();
+    io.UInt(3, lot.lotValue4, "lotValue4");
+    if (lot.version >= 600) {
+        io.Blank();
+        io.Text(20, lot.lotText20, "lotText20");
+    }
+    io.EndLine();
+
+    io.Tag("END");
+    io.Record(lot.contourData);
+    io.Record(lot.cutoutData);
+    io.Tag("END LOT_____");
+}
 
 } // namespace ItUnitechnik

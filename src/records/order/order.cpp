@@ -1,7 +1,7 @@
 #include "records/order/order.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 #include <utility>
@@ -96,63 +96,7 @@ void Order::setVersion(std::int16_t newVersion)
 
 bool Order::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << Tag("HEADER__");
-
-    ar << UInt(3, version, "version");
-
-    ar << EndLine;
-
-    if (version < 600) {
-        ar << Text(8, orderNumber, "orderNumber");
-        ar << Blanks(2);
-        ar << Blank;
-    } else {
-        ar << Text(20, orderNumber, "orderNumber");
-        ar << Blank;
-    }
-    ar << Text(5, orderText5, "orderText5");
-    ar << Blank;
-    ar << Text(4, orderText4, "orderText4");
-    ar << Blank;
-    ar << RText(8, orderText8, Adjust::right, "orderText8");
-    ar << Blank;
-    ar << UInt(2, orderValue2, "orderValue2");
-    ar << Blank;
-    if (version <= 502) {
-        ar << RText(2, legacyText2, "legacyText2");
-        ar << Blank;
-        ar << RText(40, legacyText40, "legacyText40");
-    } else {
-        ar << RText(2, orderText2, "orderText2");
-    }
-    ar << EndLine;
-
-    project.Write(ar);
-    firstAddress.Write(ar);
-    secondAddress.Write(ar);
-    date.Write(ar);
-    ar << EndLine;
-
-    if (version >= 600) {
-        ar << Text(40, orderText40, "orderText40");
-        ar << EndLine;
-    }
-
-    ar << Literal("0");
-    ar << Blank;
-    ar << UInt(2, static_cast<std::uint32_t>(elementParts.size()), "elementParts");
-    ar << Blank;
-    ar << Literal("000");
-    ar << EndLine;
-
-    ar << Tag("END");
-
-    for (ElementPart& element : elementParts) {
-        element.Write(ar);
-    }
-    ar << Tag("END HEADER__");
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool Order::Read(Archive& ar)

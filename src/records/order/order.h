@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 #include "records/element/element_part.h"
 #include "records/order/address.h"
@@ -47,5 +48,62 @@ public:
     std::wstring orderText40;                           // line 17, from 600
     std::vector<ElementPart> elementParts;              // the element records, between "END" and "END HEADER__"
 };
+
+template <class IO>
+void Layout(IO& io, Order& order)
+{
+    io.Tag("HEADER__");
+    io.UInt(3, order.version, "version");
+    io.EndLine();
+    // The date's year takes its width from the order's version.
+    order.date.version = order.version;
+
+    if (order.version < 600) {
+        io.Text(8, order.orderNumber, "orderNumber");
+        io.Blanks(2);
+        io.Blank();
+    } else {
+        io.Text(20, order.orderNumber, "orderNumber");
+        io.Blank();
+    }
+    io.Text(5, order.orderText5, "orderText5");
+    io.Blank();
+    io.Text(4, order.orderText4, "orderText4");
+    io.Blank();
+    io.RText(8, order.orderText8, Adjust::right, "orderText8");
+    io.Blank();
+    io.UInt(2, order.orderValue2, "orderValue2");
+    io.Blank();
+    if (order.version <= 502) {
+        io.RText(2, order.legacyText2, "legacyText2");
+        io.Blank();
+        io.RText(40, order.legacyText40, "legacyText40");
+    } else {
+        io.RText(2, order.orderText2, "orderText2");
+    }
+    io.EndLine();
+
+    io.Record(order.project);
+    io.Record(order.firstAddress);
+    io.Record(order.secondAddress);
+    io.Record(order.date);
+    io.EndLine();
+
+    if (order.version >= 600) {
+        io.Text(40, order.orderText40, "orderText40");
+        io.EndLine();
+    }
+
+    io.Literal("0");
+    io.Blank();
+    const std::size_t count = io.Count(2, order.elementParts, "elementParts");
+    io.Blank();
+    io.Literal("000");
+    io.EndLine();
+
+    io.Tag("END");
+    io.Each(count, order.elementParts);
+    io.Tag("END HEADER__");
+}
 
 } // namespace ItUnitechnik

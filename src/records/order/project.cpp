@@ -1,7 +1,7 @@
 #include "records/order/project.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 #include "records/order/text_lines.h"
 
@@ -14,16 +14,7 @@ bool Project::Read(Archive& ar)
 
 bool Project::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << Text(20, projectText1, "projectText1");
-    ar << EndLine;
-    ar << Text(20, projectText2, "projectText2");
-    ar << EndLine;
-    ar << Text(20, projectText3, "projectText3");
-    ar << EndLine;
-    ar << Text(20, projectText4, "projectText4");
-    ar << EndLine;
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 } // namespace ItUnitechnik

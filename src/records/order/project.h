@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/layout.h"
 #include "framework/serializable.h"
 
 #include <string>
@@ -17,5 +18,18 @@ public:
     std::wstring projectText3; // line 6
     std::wstring projectText4; // line 7
 };
+
+template <class IO>
+void Layout(IO& io, Project& project)
+{
+    io.Text(20, project.projectText1, "projectText1");
+    io.EndLine();
+    io.Text(20, project.projectText2, "projectText2");
+    io.EndLine();
+    io.Text(20, project.projectText3, "projectText3");
+    io.EndLine();
+    io.Text(20, project.projectText4, "projectText4");
+    io.EndLine();
+}
 
 } // namespace ItUnitechnik

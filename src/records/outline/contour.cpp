@@ -1,7 +1,7 @@
 #include "records/outline/contour.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 #include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
@@ -14,13 +14,7 @@ Contour::Contour(std::int32_t formatVersion)
 
 bool Contour::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(2, contourNumber, "contourNumber");
-    ar << Blank;
-    ar << ZText(2, contourCode, "contourCode");
-    ar << Blank;
-    WritePieces(ar, geoData);
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool Contour::Read(Archive& ar)
@@ -45,7 +39,7 @@ ContourData::ContourData()
 
 bool ContourData::Write(Archive& ar)
 {
-    return WriteList(ar, this, version, {"CONTOUR_", 2, "contours"}, contours);
+    return WriteLayout(ar, *this);
 }
 
 bool ContourData::Read(Archive& ar)

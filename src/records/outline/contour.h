@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 #include "geometry/bounding_box.h"
 #include "geometry/geo_data.h"
@@ -45,5 +46,29 @@ public:
     std::int16_t version = 502;    // second line
     std::vector<Contour> contours; // behind the count
 };
+
+// A contour's line; its pieces follow, one line each, the list ends the last.
+template <class IO>
+void Layout(IO& io, Contour& contour)
+{
+    io.UInt(2, contour.contourNumber, "contourNumber");
+    io.Blank();
+    io.ZText(2, contour.contourCode, "contourCode", Token);
+    io.Blank();
+    const std::size_t count = io.Count(2, contour.geoData, "geoData");
+    io.OwnLines(count, contour.geoData, [&contour] { return GeoData(contour.version); });
+}
+
+template <class IO>
+void Layout(IO& io, ContourData& data)
+{
+    io.Tag("CONTOUR_");
+    io.UInt(3, data.version, "version");
+    io.EndLine();
+    const std::size_t count = io.Count(2, data.contours, "contours");
+    io.EndLine();
+    io.Lines(count, data.contours, [&data] { return Contour(data.version); });
+    io.Tag("END");
+}
 
 } // namespace ItUnitechnik

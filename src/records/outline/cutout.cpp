@@ -1,7 +1,7 @@
 #include "records/outline/cutout.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 #include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
@@ -14,17 +14,7 @@ Cutout::Cutout(std::int32_t formatVersion)
 
 bool Cutout::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(2, cutoutNumber, "cutoutNumber");
-    ar << Blank;
-    ar << Real(2, 3, cutoutValue, "cutoutValue");
-    ar << Blank;
-    if (version >= 600) {
-        ar << Text(40, cutoutName, "cutoutName");
-        ar << Blank;
-    }
-    WritePieces(ar, geoData);
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool Cutout::Read(Archive& ar)
@@ -47,7 +37,7 @@ CutoutData::CutoutData() : ItCollectionImpl([](auto& self) -> auto& { return sta
 
 bool CutoutData::Write(Archive& ar)
 {
-    return WriteList(ar, this, version, {"CUTOUT__", 2, "cutouts"}, cutouts);
+    return WriteLayout(ar, *this);
 }
 
 bool CutoutData::Read(Archive& ar)

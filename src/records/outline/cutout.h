@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 #include "geometry/geo_data.h"
 
@@ -38,5 +39,33 @@ public:
     std::int16_t version = 502;  // second line
     std::vector<Cutout> cutouts; // behind the count
 };
+
+// A cutout's line; its pieces follow, one line each, the list ends the last.
+template <class IO>
+void Layout(IO& io, Cutout& cutout)
+{
+    io.UInt(2, cutout.cutoutNumber, "cutoutNumber");
+    io.Blank();
+    io.Real(2, 3, cutout.cutoutValue, "cutoutValue");
+    io.Blank();
+    if (cutout.version >= 600) {
+        io.Text(40, cutout.cutoutName, "cutoutName");
+        io.Blank();
+    }
+    const std::size_t count = io.Count(2, cutout.geoData, "geoData");
+    io.OwnLines(count, cutout.geoData, [&cutout] { return GeoData(cutout.version); });
+}
+
+template <class IO>
+void Layout(IO& io, CutoutData& data)
+{
+    io.Tag("CUTOUT__");
+    io.UInt(3, data.version, "version");
+    io.EndLine();
+    const std::size_t count = io.Count(2, data.cutouts, "cutouts");
+    io.EndLine();
+    io.Lines(count, data.cutouts, [&data] { return Cutout(data.version); });
+    io.Tag("END");
+}
 
 } // namespace ItUnitechnik

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 #include "geometry/geo_data.h"
 #include "geometry/point.h"
@@ -54,5 +55,67 @@ public:
     std::int16_t version = 502;      // second line
     std::vector<MountingPart> parts; // behind the count
 };
+
+template <class IO>
+void Layout(IO& io, MountingPart& part)
+{
+    // Line 1.
+    io.UInt(part.version < 502 ? 2 : 3, part.partNumber, "partNumber");
+    io.Blank();
+    io.Char(part.partKind, "partKind");
+    io.UInt(2, part.partSubCode, "partSubCode");
+    io.Blank();
+    io.Literal("000");
+    io.Blank();
+    io.Text(10, part.partCode, "partCode");
+    io.Blank();
+    io.Text(40, part.partName, "partName");
+    io.EndLine();
+    // Lines 2 and 3 stand at the right end of their places.
+    if (part.version >= 600) {
+        io.RText(20, part.partText1, Adjust::right, "partText1");
+        io.EndLine();
+        io.RText(20, part.partText2, Adjust::right, "partText2");
+        io.EndLine();
+    }
+    // Last line.
+    io.Real(2, 3, part.partArea, "partArea");
+    io.Blank();
+    io.UInt(3, part.setValue1, "setValue1");
+    io.Blank();
+    if (part.version >= 600) {
+        io.SInt(5, part.position.x, "position.x");
+        io.Blank();
+        io.SInt(5, part.position.y, "position.y");
+        io.Blank();
+        io.SInt(5, part.setValue2, "setValue2");
+    } else {
+        io.UInt(3, part.setValue2, "setValue2");
+    }
+    io.Blank();
+    io.UInt(4, part.partValue1, "partValue1");
+    io.Blank();
+    io.UInt(3, part.partValue2, "partValue2");
+    io.Blank();
+    io.UInt(5, part.partWidth, "partWidth");
+    io.Blank();
+    io.UInt(5, part.partHeight, "partHeight");
+    io.Blank();
+    const std::size_t count = io.Count(2, part.geoData, "geoData");
+    io.OwnLines(count, part.geoData, [&part] { return GeoData(part.version); });
+}
+
+// The count has two places below 502, three from it.
+template <class IO>
+void Layout(IO& io, MountingPartData& data)
+{
+    io.Tag("MOUNPART");
+    io.UInt(3, data.version, "version");
+    io.EndLine();
+    const std::size_t count = io.Count(data.version < 502 ? 2 : 3, data.parts, "parts");
+    io.EndLine();
+    io.Lines(count, data.parts, [&data] { return MountingPart(data.version); });
+    io.Tag("END");
+}
 
 } // namespace ItUnitechnik

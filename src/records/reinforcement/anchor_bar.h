@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 
 #include <cstdint>
@@ -34,5 +35,28 @@ public:
     std::int32_t anchorCode = 0; // head line, 3 digits, before the count
     std::vector<AnchorBar> bars; // one line each, behind the head line
 };
+
+template <class IO>
+void Layout(IO& io, AnchorBar& bar)
+{
+    io.UInt(3, bar.firstType, "firstType");
+    io.Blank();
+    io.UInt(3, bar.secondType, "secondType");
+    io.Blank();
+    io.UInt(5, bar.firstLength, "firstLength");
+    io.Blank();
+    io.UInt(5, bar.secondLength, "secondLength");
+    io.Blank();
+}
+
+// The last line is ended by the list that holds the girder.
+template <class IO>
+void Layout(IO& io, AnchorBarData& bars)
+{
+    io.UInt(3, bars.anchorCode, "anchorCode");
+    io.Blank();
+    const std::size_t count = io.Count(3, bars.bars, "bars");
+    io.OwnLines(count, bars.bars);
+}
 
 } // namespace ItUnitechnik

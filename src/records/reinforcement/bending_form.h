@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/layout.h"
 #include "framework/serializable.h"
 
 #include <cstdint>
@@ -24,5 +25,24 @@ public:
     std::int32_t formValueD = 0; // 5 digits
     std::int32_t formValueE = 0; // 3 digits, last on the line
 };
+
+// The two coded forms of a bent bar share this layout, on one line.
+template <class IO>
+void Layout(IO& io, BendingForm& form)
+{
+    // The one text of the format that is written whole: a longer code shifts
+    // the rest of the line.
+    io.ZTextWhole(3, form.formCode, "formCode");
+    io.Blank();
+    io.UInt(5, form.formValueA, "formValueA");
+    io.Blank();
+    io.UInt(5, form.formValueB, "formValueB");
+    io.Blank();
+    io.UInt(5, form.formValueC, "formValueC");
+    io.Blank();
+    io.UInt(5, form.formValueD, "formValueD");
+    io.Blank();
+    io.UInt(3, form.formValueE, "formValueE");
+}
 
 } // namespace ItUnitechnik

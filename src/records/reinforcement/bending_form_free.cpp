@@ -1,18 +1,14 @@
 #include "records/reinforcement/bending_form_free.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
 
 bool BendingFormSegment::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(5, length, "length");
-    ar << Blank;
-    ar << SInt(3, angle, "angle");
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool BendingFormSegment::Read(Archive& ar)
@@ -23,15 +19,7 @@ bool BendingFormSegment::Read(Archive& ar)
 
 bool BendingFormPart::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(2, partNumber, "partNumber");
-    ar << Blank;
-    ar << UInt(2, segments.size(), "segments");
-    for (BendingFormSegment& segment : segments) {
-        ar << Blank;
-        segment.Write(ar);
-    }
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool BendingFormPart::Read(Archive& ar)
@@ -51,20 +39,7 @@ bool BendingFormPart::Read(Archive& ar)
 
 bool BendingFormFree::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    // No adjustment of its own: the bar's integer fields before it leave the
-    // right alignment in force.
-    ar << RText(3, formCode, "formCode");
-    ar << Blank;
-    ar << UInt(2, parts.size(), "parts");
-    if (parts.empty()) {
-        ar << EndLine;
-    }
-    for (BendingFormPart& part : parts) {
-        ar << EndLine;
-        part.Write(ar);
-    }
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool BendingFormFree::Read(Archive& ar)

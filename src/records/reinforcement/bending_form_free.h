@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 
 #include <cstdint>
@@ -63,5 +64,34 @@ public:
     std::wstring formCode;              // first on the head line, 3 places
     std::vector<BendingFormPart> parts; // one line each, behind the head line
 };
+
+template <class IO>
+void Layout(IO& io, BendingFormSegment& segment)
+{
+    io.UInt(5, segment.length, "length");
+    io.Blank();
+    io.SInt(3, segment.angle, "angle");
+}
+
+// A part's segments stand on its line, each behind a blank.
+template <class IO>
+void Layout(IO& io, BendingFormPart& part)
+{
+    io.UInt(2, part.partNumber, "partNumber");
+    io.Blank();
+    const std::size_t count = io.Count(2, part.segments, "segments");
+    io.Run(count, part.segments);
+}
+
+template <class IO>
+void Layout(IO& io, BendingFormFree& form)
+{
+    // No adjustment of its own: the bar's integer fields before it leave the
+    // right alignment in force.
+    io.RText(3, form.formCode, "formCode", Token);
+    io.Blank();
+    const std::size_t count = io.Count(2, form.parts, "parts");
+    io.OwnLines(count, form.parts);
+}
 
 } // namespace ItUnitechnik

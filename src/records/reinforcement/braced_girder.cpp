@@ -1,7 +1,7 @@
 #include "records/reinforcement/braced_girder.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 #include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
@@ -16,56 +16,7 @@ BracedGirder::BracedGirder()
 
 bool BracedGirder::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(3, number, "number");
-    ar << Blank;
-    ar << ZText(3, code, "code");
-    ar << Blank;
-    ar << UInt(5, typeNumber, "typeNumber");
-    ar << Blank;
-    ar << Text(10, designation, "designation");
-    ar << Blank;
-    ar << UInt(5, firstSize, "firstSize");
-    ar << Blank;
-    ar << SInt(5, position.x, "position.x");
-    ar << Blank;
-    ar << SInt(5, position.y, "position.y");
-    ar << Blank;
-    ar << SInt(5, positionZ, "positionZ");
-    ar << Blank;
-    ar << SInt(3, rotation, "rotation");
-    ar << Blank;
-    ar << UInt(1, static_cast<int>(mountFlag), "mountFlag");
-    ar << EndLine;
-
-    ar << ZText(3, firstCode, "firstCode");
-    ar << Blank;
-    ar << ZText(3, secondCode, "secondCode");
-    ar << Blank;
-    ar << UInt(3, auxNumber, "auxNumber");
-    ar << Blank;
-    ar << Real(2, 3, scaledValue, "scaledValue");
-    ar << Blank;
-    ar << UInt(2, shortNumber, "shortNumber");
-    ar << Blank;
-    ar << RText(3, thirdCode, Adjust::right, "thirdCode");
-    ar << Blank;
-    ar << UInt(5, lastNumber, "lastNumber");
-    ar << Blank;
-    ar << UInt(1, static_cast<int>(hasWeldingPoints), "hasWeldingPoints");
-    ar << Char(L'0');
-    ar << UInt(1, static_cast<int>(hasAnchorBars), "hasAnchorBars");
-
-    // Whatever comes last is ended by the list.
-    if (hasWeldingPoints) {
-        ar << EndLine;
-        weldingPoints.Write(ar);
-    }
-    if (hasAnchorBars) {
-        ar << EndLine;
-        anchorBars.Write(ar);
-    }
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool BracedGirder::Read(Archive& ar)
@@ -103,7 +54,7 @@ bool BracedGirder::Read(Archive& ar)
 
 bool BracedGirderData::Write(Archive& ar)
 {
-    return WriteList(ar, this, version, {"BRGIRDER", 3, "girders"}, girders);
+    return WriteLayout(ar, *this);
 }
 
 bool BracedGirderData::Read(Archive& ar)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 #include "geometry/point.h"
 #include "records/reinforcement/anchor_bar.h"
@@ -64,5 +65,71 @@ public:
     std::int16_t version = 502;        // second line
     std::vector<BracedGirder> girders; // count on the third line, then each girder
 };
+
+// A girder's lines. Its flags decide what follows the second line; the list
+// ends whatever comes last.
+template <class IO>
+void Layout(IO& io, BracedGirder& girder)
+{
+    io.UInt(3, girder.number, "number");
+    io.Blank();
+    io.ZText(3, girder.code, "code", Token);
+    io.Blank();
+    io.UInt(5, girder.typeNumber, "typeNumber");
+    io.Blank();
+    io.Text(10, girder.designation, "designation");
+    io.Blank();
+    io.UInt(5, girder.firstSize, "firstSize");
+    io.Blank();
+    io.SInt(5, girder.position.x, "position.x");
+    io.Blank();
+    io.SInt(5, girder.position.y, "position.y");
+    io.Blank();
+    io.SInt(5, girder.positionZ, "positionZ");
+    io.Blank();
+    io.SInt(3, girder.rotation, "rotation");
+    io.Blank();
+    io.UInt(1, girder.mountFlag, "mountFlag");
+    io.EndLine();
+
+    io.ZText(3, girder.firstCode, "firstCode", Token);
+    io.Blank();
+    io.ZText(3, girder.secondCode, "secondCode", Token);
+    io.Blank();
+    io.UInt(3, girder.auxNumber, "auxNumber");
+    io.Blank();
+    io.Real(2, 3, girder.scaledValue, "scaledValue");
+    io.Blank();
+    io.UInt(2, girder.shortNumber, "shortNumber");
+    io.Blank();
+    io.RText(3, girder.thirdCode, Adjust::right, "thirdCode", Token);
+    io.Blank();
+    io.UInt(5, girder.lastNumber, "lastNumber");
+    io.Blank();
+    io.UInt(1, girder.hasWeldingPoints, "hasWeldingPoints");
+    io.Constant(L'0');
+    io.UInt(1, girder.hasAnchorBars, "hasAnchorBars");
+
+    if (girder.hasWeldingPoints) {
+        io.EndLine();
+        io.Record(girder.weldingPoints);
+    }
+    if (girder.hasAnchorBars) {
+        io.EndLine();
+        io.Record(girder.anchorBars);
+    }
+}
+
+template <class IO>
+void Layout(IO& io, BracedGirderData& data)
+{
+    io.Tag("BRGIRDER");
+    io.UInt(3, data.version, "version");
+    io.EndLine();
+    const std::size_t count = io.Count(3, data.girders, "girders");
+    io.EndLine();
+    io.Lines(count, data.girders);
+    io.Tag("END");
+}
 
 } // namespace ItUnitechnik

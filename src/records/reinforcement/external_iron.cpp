@@ -1,7 +1,7 @@
 #include "records/reinforcement/external_iron.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 #include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
@@ -9,19 +9,7 @@ namespace ItUnitechnik {
 
 bool ExternalIron::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(3, ironNumber, "ironNumber");
-    ar << Blank;
-    ar << UInt(2, ironCode, "ironCode");
-    ar << Blank;
-    ar << UInt(5, ironCount, "ironCount");
-    ar << Blank;
-    ar << Real(3, 3, ironValue, "ironValue");
-    ar << Blank;
-    // No alignment of its own: the Real before it leaves the text at the
-    // right end of its places.
-    ar << RText(30, ironText, "ironText");
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool ExternalIron::Read(Archive& ar)
@@ -35,7 +23,7 @@ bool ExternalIron::Read(Archive& ar)
 
 bool ExternalIronData::Write(Archive& ar)
 {
-    return WriteList(ar, this, version, {"EXTIRON_", 3, "irons"}, irons);
+    return WriteLayout(ar, *this);
 }
 
 bool ExternalIronData::Read(Archive& ar)

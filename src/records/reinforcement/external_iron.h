@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 
 #include <cstdint>
@@ -44,5 +45,33 @@ public:
     std::int16_t version = 502;      // second line
     std::vector<ExternalIron> irons; // count on the third line, then one line each
 };
+
+template <class IO>
+void Layout(IO& io, ExternalIron& iron)
+{
+    io.UInt(3, iron.ironNumber, "ironNumber");
+    io.Blank();
+    io.UInt(2, iron.ironCode, "ironCode");
+    io.Blank();
+    io.UInt(5, iron.ironCount, "ironCount");
+    io.Blank();
+    io.Real(3, 3, iron.ironValue, "ironValue");
+    io.Blank();
+    // No alignment of its own: the Real before it leaves the text at the
+    // right end of its places.
+    io.RText(30, iron.ironText, "ironText");
+}
+
+template <class IO>
+void Layout(IO& io, ExternalIronData& data)
+{
+    io.Tag("EXTIRON_");
+    io.UInt(3, data.version, "version");
+    io.EndLine();
+    const std::size_t count = io.Count(3, data.irons, "irons");
+    io.EndLine();
+    io.Lines(count, data.irons);
+    io.Tag("END");
+}
 
 } // namespace ItUnitechnik

@@ -1,7 +1,7 @@
 #include "records/reinforcement/reinforcement.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
@@ -31,28 +31,7 @@ std::int16_t Reinforcement::appendSteelmat(const std::wstring& name, std::int32_
 
 bool Reinforcement::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << Tag("REFORCEM");
-    ar << UInt(3, version, "version");
-    ar << EndLine;
-
-    ar << Text(10, firstText, "firstText");
-    ar << Blank;
-    ar << Text(4, secondText, "secondText");
-    ar << Blank;
-    ar << Text(8, thirdText, "thirdText");
-    ar << Blank;
-    ar << UInt(1, matFlag, "matFlag");
-    ar << EndLine;
-
-    ar << Tag("END");
-    WriteElements(ar, mats);
-    // Only a single-digit version of 5 or below leaves the irons out.
-    if (hasExternalIrons && version > 5) {
-        externalIrons.Write(ar);
-    }
-    ar << Tag("END REFORCEM");
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool Reinforcement::Read(Archive& ar)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 #include "records/reinforcement/external_iron.h"
 #include "records/reinforcement/steelmat.h"
@@ -38,5 +39,31 @@ public:
     bool hasExternalIrons = false;  // set only by Read
     bool present = false;           // the block holds something
 };
+
+template <class IO>
+void Layout(IO& io, Reinforcement& block)
+{
+    io.Tag("REFORCEM");
+    io.UInt(3, block.version, "version");
+    io.EndLine();
+
+    io.Text(10, block.firstText, "firstText");
+    io.Blank();
+    io.Text(4, block.secondText, "secondText");
+    io.Blank();
+    io.Text(8, block.thirdText, "thirdText");
+    io.Blank();
+    io.UInt(1, block.matFlag, "matFlag");
+    io.EndLine();
+
+    io.Tag("END");
+    io.TaggedLines("STEELMAT", block.mats);
+    // Only a single-digit version of 5 or below leaves the irons out; a
+    // reading takes them whatever the version.
+    if (io.Present(block.hasExternalIrons, "EXTIRON_") && (IO::reading || block.version > 5)) {
+        io.Record(block.externalIrons);
+    }
+    io.Tag("END REFORCEM");
+}
 
 } // namespace ItUnitechnik

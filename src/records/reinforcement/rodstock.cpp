@@ -1,7 +1,7 @@
 #include "records/reinforcement/rodstock.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 #include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
@@ -33,76 +33,7 @@ void Rodstock::applyFlagsCode(std::int32_t flagsCode)
 
 bool Rodstock::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(3, number, "number");
-    ar << Blank;
-    ar << ZText(3, code, "code");
-    ar << Blank;
-    ar << UInt(1, rodKind, "rodKind");
-    ar << Blank;
-    if (version >= 600) {
-        ar << Text(10, designation, "designation");
-    } else {
-        ar << Text(3, designation, "designation");
-    }
-    ar << Blank;
-    ar << UInt(5, firstSize, "firstSize");
-    ar << Blank;
-    ar << UInt(3, secondSize, "secondSize");
-    ar << Blank;
-    ar << UInt(5, thirdSize, "thirdSize");
-    ar << Blank;
-    ar << SInt(5, position.x, "position.x");
-    ar << Blank;
-    ar << SInt(5, position.y, "position.y");
-    ar << Blank;
-    ar << SInt(5, positionZ, "positionZ");
-    ar << Blank;
-    ar << SInt(3, rotation, "rotation");
-    ar << Blank;
-    // The signed field before it leaves `internal`: the text is padded in front.
-    ar << RText(10, extraDesignation, "extraDesignation");
-    ar << Blank;
-    ar << UInt(1, static_cast<int>(mountFlag), "mountFlag");
-    ar << EndLine;
-
-    ar << UInt(3, auxFirst, "auxFirst");
-    ar << Blank;
-    ar << UInt(3, auxSecond, "auxSecond");
-    ar << Blank;
-    ar << UInt(3, auxThird, "auxThird");
-    ar << Blank;
-    ar << UInt(5, auxFourth, "auxFourth");
-    ar << Blank;
-    ar << UInt(5, auxFifth, "auxFifth");
-    ar << Blank;
-    ar << UInt(5, auxSixth, "auxSixth");
-    ar << Blank;
-    ar << UInt(1, static_cast<int>(hasWeldingPoints), "hasWeldingPoints");
-    ar << UInt(1, static_cast<int>(hasSpacers), "hasSpacers");
-    ar << Char(bendingKind, "bendingKind");
-
-    // Whatever comes last is ended by the list.
-    if (bendingKind == L'1') {
-        ar << EndLine;
-        firstForm.Write(ar);
-        ar << Blank;
-        secondForm.Write(ar);
-        ar << Blank;
-        ar << SInt(3, formAngle, "formAngle");
-    } else if (bendingKind == L'2') {
-        ar << EndLine;
-        freeForm.Write(ar);
-    }
-    if (hasSpacers) {
-        ar << EndLine;
-        spacers.Write(ar);
-    }
-    if (hasWeldingPoints) {
-        ar << EndLine;
-        weldingPoints.Write(ar);
-    }
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool Rodstock::Read(Archive& ar)
@@ -144,7 +75,7 @@ bool Rodstock::Read(Archive& ar)
 
 bool RodstockData::Write(Archive& ar)
 {
-    return WriteList(ar, this, version, {"RODSTOCK", 3, "bars"}, bars);
+    return WriteLayout(ar, *this);
 }
 
 bool RodstockData::Read(Archive& ar)

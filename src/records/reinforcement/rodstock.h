@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 #include "geometry/point.h"
 #include "records/reinforcement/bending_form.h"
@@ -76,5 +77,87 @@ public:
     std::int16_t version = 502; // second line; handed on to every bar
     std::vector<Rodstock> bars; // count on the third line, then each bar
 };
+
+// A bar's lines. The flags on the second line decide what follows it; the
+// list ends whatever comes last.
+template <class IO>
+void Layout(IO& io, Rodstock& bar)
+{
+    io.UInt(3, bar.number, "number");
+    io.Blank();
+    io.ZText(3, bar.code, "code", Token);
+    io.Blank();
+    io.UInt(1, bar.rodKind, "rodKind");
+    io.Blank();
+    io.Text(bar.version >= 600 ? 10 : 3, bar.designation, "designation");
+    io.Blank();
+    io.UInt(5, bar.firstSize, "firstSize");
+    io.Blank();
+    io.UInt(3, bar.secondSize, "secondSize");
+    io.Blank();
+    io.UInt(5, bar.thirdSize, "thirdSize");
+    io.Blank();
+    io.SInt(5, bar.position.x, "position.x");
+    io.Blank();
+    io.SInt(5, bar.position.y, "position.y");
+    io.Blank();
+    io.SInt(5, bar.positionZ, "positionZ");
+    io.Blank();
+    io.SInt(3, bar.rotation, "rotation");
+    io.Blank();
+    // The signed field before it leaves `internal`: the text is padded in front.
+    io.RText(10, bar.extraDesignation, "extraDesignation");
+    io.Blank();
+    io.UInt(1, bar.mountFlag, "mountFlag");
+    io.EndLine();
+
+    io.UInt(3, bar.auxFirst, "auxFirst");
+    io.Blank();
+    io.UInt(3, bar.auxSecond, "auxSecond");
+    io.Blank();
+    io.UInt(3, bar.auxThird, "auxThird");
+    io.Blank();
+    io.UInt(5, bar.auxFourth, "auxFourth");
+    io.Blank();
+    io.UInt(5, bar.auxFifth, "auxFifth");
+    io.Blank();
+    io.UInt(5, bar.auxSixth, "auxSixth");
+    io.Blank();
+    io.UInt(1, bar.hasWeldingPoints, "hasWeldingPoints");
+    io.UInt(1, bar.hasSpacers, "hasSpacers");
+    io.Char(bar.bendingKind, "bendingKind");
+
+    if (bar.bendingKind == L'1') {
+        io.EndLine();
+        io.Record(bar.firstForm);
+        io.Blank();
+        io.Record(bar.secondForm);
+        io.Blank();
+        io.SInt(3, bar.formAngle, "formAngle");
+    } else if (bar.bendingKind == L'2') {
+        io.EndLine();
+        io.Record(bar.freeForm);
+    }
+    if (bar.hasSpacers) {
+        io.EndLine();
+        io.Record(bar.spacers);
+    }
+    if (bar.hasWeldingPoints) {
+        io.EndLine();
+        io.Record(bar.weldingPoints);
+    }
+}
+
+template <class IO>
+void Layout(IO& io, RodstockData& data)
+{
+    io.Tag("RODSTOCK");
+    io.UInt(3, data.version, "version");
+    io.EndLine();
+    const std::size_t count = io.Count(3, data.bars, "bars");
+    io.EndLine();
+    io.Lines(count, data.bars, [&data] { return Rodstock(data.version); });
+    io.Tag("END");
+}
 
 } // namespace ItUnitechnik

@@ -1,33 +1,13 @@
 #include "records/reinforcement/spacer.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 
 namespace ItUnitechnik {
 
 bool SpacerPosition::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(5, value1, "value1");
-    ar << Blank;
-    ar << UInt(5, value2, "value2");
-    ar << Blank;
-    ar << UInt(5, value3, "value3");
-    ar << Blank;
-    ar << UInt(5, value4, "value4");
-    ar << Blank;
-    ar << UInt(5, value5, "value5");
-    ar << Blank;
-    ar << UInt(5, value6, "value6");
-    ar << Blank;
-    ar << UInt(5, value7, "value7");
-    ar << Blank;
-    ar << UInt(5, value8, "value8");
-    ar << Blank;
-    ar << UInt(5, value9, "value9");
-    ar << Blank;
-    ar << UInt(5, value10, "value10");
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool SpacerPosition::Read(Archive& ar)
@@ -38,19 +18,7 @@ bool SpacerPosition::Read(Archive& ar)
 
 bool SpacerData::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(3, spacerCode, "spacerCode");
-    ar << Blank;
-    ar << UInt(3, positions.size(), "positions");
-    // The last line is ended by the list that holds the bar.
-    if (positions.empty()) {
-        ar << EndLine;
-    }
-    for (SpacerPosition& position : positions) {
-        ar << EndLine;
-        position.Write(ar);
-    }
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool SpacerData::Read(Archive& ar)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 
 #include <cstdint>
@@ -40,5 +41,39 @@ public:
     std::int32_t spacerCode = 0;           // head line, 3 digits, before the count
     std::vector<SpacerPosition> positions; // one line each, behind the head line
 };
+
+template <class IO>
+void Layout(IO& io, SpacerPosition& position)
+{
+    io.UInt(5, position.value1, "value1");
+    io.Blank();
+    io.UInt(5, position.value2, "value2");
+    io.Blank();
+    io.UInt(5, position.value3, "value3");
+    io.Blank();
+    io.UInt(5, position.value4, "value4");
+    io.Blank();
+    io.UInt(5, position.value5, "value5");
+    io.Blank();
+    io.UInt(5, position.value6, "value6");
+    io.Blank();
+    io.UInt(5, position.value7, "value7");
+    io.Blank();
+    io.UInt(5, position.value8, "value8");
+    io.Blank();
+    io.UInt(5, position.value9, "value9");
+    io.Blank();
+    io.UInt(5, position.value10, "value10");
+}
+
+// The last line is ended by the list that holds the bar.
+template <class IO>
+void Layout(IO& io, SpacerData& spacers)
+{
+    io.UInt(3, spacers.spacerCode, "spacerCode");
+    io.Blank();
+    const std::size_t count = io.Count(3, spacers.positions, "positions");
+    io.OwnLines(count, spacers.positions);
+}
 
 } // namespace ItUnitechnik

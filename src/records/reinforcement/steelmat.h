@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 #include "records/reinforcement/braced_girder.h"
 #include "records/reinforcement/rodstock.h"
@@ -35,5 +36,49 @@ public:
     RodstockData rodstocks;           // behind "END", always
     BracedGirderData girders;         // behind the bars, always
 };
+
+// The block ends the mat's last line.
+template <class IO>
+void Layout(IO& io, Steelmat& mat)
+{
+    io.Tag("STEELMAT");
+    io.UInt(3, mat.version, "version");
+    io.EndLine();
+
+    io.UInt(2, mat.number, "number");
+    io.Blank();
+    io.SInt(5, mat.positionX, "positionX");
+    io.Blank();
+    io.SInt(5, mat.positionY, "positionY");
+    io.Blank();
+    io.SInt(5, mat.positionZ, "positionZ");
+    io.Blank();
+    io.UInt(1, mat.firstFlag, "firstFlag");
+    io.Blank();
+    io.UInt(1, mat.secondFlag, "secondFlag");
+    io.Blank();
+    // The digit before it leaves the stream right-aligned: a short name stands
+    // at the right end of its places.
+    io.RText(20, mat.name, "name");
+    io.Blank();
+    io.UInt(5, mat.firstDimension, "firstDimension");
+    io.Blank();
+    io.UInt(5, mat.secondDimension, "secondDimension");
+    io.Blank();
+    io.UInt(1, As<std::int16_t>(mat.matKind), "matKind");
+    io.EndLine();
+
+    if (mat.version >= 600) {
+        io.Text(20, mat.extraTextA, "extraTextA");
+        io.EndLine();
+        io.Text(20, mat.extraTextB, "extraTextB");
+        io.EndLine();
+    }
+    io.Tag("END");
+
+    io.Record(mat.rodstocks);
+    io.Record(mat.girders);
+    io.Literal("END STEELMAT");
+}
 
 } // namespace ItUnitechnik

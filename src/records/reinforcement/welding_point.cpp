@@ -1,18 +1,14 @@
 #include "records/reinforcement/welding_point.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
 
 bool WeldingIntersection::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(5, offset, "offset");
-    ar << Blank;
-    ar << UInt(3, weldCode, "weldCode");
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool WeldingIntersection::Read(Archive& ar)
@@ -23,16 +19,7 @@ bool WeldingIntersection::Read(Archive& ar)
 
 bool WeldingPoint::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    bool first = true;
-    for (WeldingIntersection& intersection : intersections) {
-        if (!first) {
-            ar << Blank;
-        }
-        first = false;
-        intersection.Write(ar);
-    }
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool WeldingPoint::Read(Archive& ar)
@@ -45,25 +32,7 @@ bool WeldingPoint::Read(Archive& ar)
 
 bool WeldingPointData::Write(Archive& ar)
 {
-    const RecordScope scope(ar, this);
-    ar << UInt(3, weldValueA, "weldValueA");
-    ar << Blank;
-    ar << UInt(3, weldValueB, "weldValueB");
-    ar << Blank;
-    ar << UInt(3, weldValueC, "weldValueC");
-    ar << Blank;
-    ar << Char(weldLetter, "weldLetter");
-    ar << UInt(1, static_cast<int>(weldFlag), "weldFlag");
-    ar << UInt(3, points.size(), "points");
-    // The last line is ended by the list that holds the bar or girder.
-    if (points.empty()) {
-        ar << EndLine;
-    }
-    for (WeldingPoint& point : points) {
-        ar << EndLine;
-        point.Write(ar);
-    }
-    return Healthy(ar);
+    return WriteLayout(ar, *this);
 }
 
 bool WeldingPointData::Read(Archive& ar)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/layout.h"
 #include "framework/serializable.h"
 
 #include <array>
@@ -53,5 +54,35 @@ public:
     bool weldFlag = false;            // one digit, the count right behind it
     std::vector<WeldingPoint> points; // one line each, behind the head line
 };
+
+template <class IO>
+void Layout(IO& io, WeldingIntersection& intersection)
+{
+    io.UInt(5, intersection.offset, "offset");
+    io.Blank();
+    io.UInt(3, intersection.weldCode, "weldCode");
+}
+
+template <class IO>
+void Layout(IO& io, WeldingPoint& point)
+{
+    io.Row(point.intersections);
+}
+
+// The last line is ended by the list that holds the bar or girder.
+template <class IO>
+void Layout(IO& io, WeldingPointData& points)
+{
+    io.UInt(3, points.weldValueA, "weldValueA");
+    io.Blank();
+    io.UInt(3, points.weldValueB, "weldValueB");
+    io.Blank();
+    io.UInt(3, points.weldValueC, "weldValueC");
+    io.Blank();
+    io.Char(points.weldLetter, "weldLetter");
+    io.UInt(1, points.weldFlag, "weldFlag");
+    const std::size_t count = io.Count(3, points.points, "points");
+    io.OwnLines(count, points.points);
+}
 
 } // namespace ItUnitechnik
