@@ -1,150 +1,22 @@
+// The forms of numbers, on every sink, and the state they leave the stream
+// in; the sinks are those of field_forms_text_test.cpp.
 #include "framework/field_forms.h"
+
+#include "framework/field_forms_test_support.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <ios>
 #include <locale>
-#include <sstream>
+#include <ostream>
 #include <string>
-#include <vector>
 
 namespace ItUnitechnik {
 namespace {
 
-// Where the forms write. A plain string buffer takes every field through
-// the stream; a put area of the library's own kind takes a field straight in
-// when it has room for it, and a put area of one character has room for a
-// blank only, so that every longer field goes through the stream after all.
-// Each sink gets the same characters.
-enum class Sink { stringBuffer, roomyArea, oneCharacterArea };
-
-class AreaBuffer : public FieldBuffer {
-public:
-    explicit AreaBuffer(std::size_t size) : area_(size) { setp(area_.data(), area_.data() + area_.size()); }
-
-    std::wstring Text()
-    {
-        Take();
-        return text_;
-    }
-
-protected:
-    int_type overflow(int_type c) override
-    {
-        Take();
-        if (!traits_type::eq_int_type(c, traits_type::eof())) {
-            *pptr() = traits_type::to_char_type(c);
-            pbump(1);
-        }
-        return traits_type::not_eof(c);
-    }
-
-private:
-    void Take()
-    {
-        text_.append(pbase(), pptr());
-        setp(area_.data(), area_.data() + area_.size());
-    }
-
-    std::vector<wchar_t> area_;
-    std::wstring text_;
-};
-
-class SinkArchive {
-public:
-    explicit SinkArchive(Sink sink)
-        : area_(sink == Sink::oneCharacterArea ? 1 : 4096),
-          archive(sink == Sink::stringBuffer ? static_cast<std::wstreambuf*>(&string_) : &area_), sink_(sink)
-    {
-    }
-
-    std::wstring Text() { return sink_ == Sink::stringBuffer ? string_.str() : area_.Text(); }
-
-private:
-    std::wstringbuf string_;
-    AreaBuffer area_;
-
-public:
-    Archive archive;
-
-private:
-    Sink sink_;
-};
-
-class FieldFormsOn : public ::testing::TestWithParam<Sink> {
-protected:
-    template <class Form>
-    std::wstring Written(const Form& form)
-    {
-        SinkArchive s(GetParam());
-        s.archive << form;
-        return s.Text();
-    }
-};
-
-std::string SinkName(const ::testing::TestParamInfo<Sink>& sink)
-{
-    switch (sink.param) {
-    case Sink::stringBuffer:
-        return "StringBuffer";
-    case Sink::roomyArea:
-        return "RoomyPutArea";
-    case Sink::oneCharacterArea:
-        return "OneCharacterPutArea";
-    }
-    return "";
-}
-
-INSTANTIATE_TEST_SUITE_P(Sinks, FieldFormsOn,
-                         ::testing::Values(Sink::stringBuffer, Sink::roomyArea, Sink::oneCharacterArea), SinkName);
-
-TEST_P(FieldFormsOn, TextPadsBehindAndCuts)
-{
-    EXPECT_EQ(Written(Text(8, L"AB")), L"AB      ");
-    EXPECT_EQ(Written(Text(8, L"ABCDEFGHIJ")), L"ABCDEFGH");
-    EXPECT_EQ(Written(Text(5, L"")), L"     ");
-}
-
-TEST_P(FieldFormsOn, TextLeavesLeftInForce)
-{
-    SinkArchive s(GetParam());
-    s.archive << Text(3, L"A") << ZText(3, L"7");
-    EXPECT_EQ(s.Text(), L"A  700");
-}
-
-TEST_P(FieldFormsOn, RTextPadsInFrontUnlessLeftIsInForce)
-{
-    EXPECT_EQ(Written(RText(8, L"AB")), L"      AB");
-    EXPECT_EQ(Written(RText(5, L"")), L"     ");
-    EXPECT_EQ(Written(RText(3, L"ABCD")), L"ABC");
-
-    SinkArchive s(GetParam());
-    s.archive << Text(2, L"X") << RText(4, L"AB") << RText(4, L"CD", Adjust::right);
-    EXPECT_EQ(s.Text(), L"X AB    CD");
-}
-
-TEST_P(FieldFormsOn, RTextInternalLeftByAnSIntPadsInFront)
-{
-    SinkArchive s(GetParam());
-    s.archive << SInt(2, 5) << RText(5, L"AB");
-    EXPECT_EQ(s.Text(), L"+05   AB");
-}
-
-TEST_P(FieldFormsOn, ZTextFillsWithZeros)
-{
-    EXPECT_EQ(Written(ZText(3, L"7")), L"007");
-    EXPECT_EQ(Written(ZText(5, L"")), L"00000");
-    EXPECT_EQ(Written(ZText(3, L"12345")), L"123");
-}
-
-TEST_P(FieldFormsOn, ZTextWholeIsNotCut)
-{
-    EXPECT_EQ(Written(ZTextWhole(3, L"12345")), L"12345");
-    EXPECT_EQ(Written(ZTextWhole(3, L"")), L"000");
-    SinkArchive s(GetParam());
-    s.archive << Text(1, L"") << ZTextWhole(3, L"7");
-    EXPECT_EQ(s.Text(), L" 007");
-}
+using FieldFormsTesting::FieldFormsOn;
+using FieldFormsTesting::SinkArchive;
 
 TEST_P(FieldFormsOn, UIntZeroFilledWithSignBehindTheZeros)
 {
@@ -343,35 +215,6 @@ TEST_P(FieldFormsOn, HexUpperCaseFullPatternThenBackToDecimal)
     EXPECT_EQ(stream.flags() & std::ios_base::adjustfield, std::ios_base::right);
     EXPECT_EQ(stream.fill(), L'0');
     EXPECT_EQ(stream.width(), 0);
-}
-
-TEST_P(FieldFormsOn, CharOneCharacterWithoutFill)
-{
-    SinkArchive s(GetParam());
-    s.archive << Char(L'S') << Blank << Char(L'K');
-    EXPECT_EQ(s.Text(), L"S K");
-}
-
-TEST_P(FieldFormsOn, BlanksWriteBlanksOnly)
-{
-    EXPECT_EQ(Written(Blank), L" ");
-    EXPECT_EQ(Written(Blanks(3)), L"   ");
-    EXPECT_EQ(Written(Blanks(0)), L"");
-    EXPECT_EQ(Written(Blanks(-1)), L"");
-}
-
-TEST_P(FieldFormsOn, BlanksRunWithWidthZeroAfterAField)
-{
-    SinkArchive s(GetParam());
-    s.archive << UInt(3, 1) << Blank << Literal("0") << Blanks(2) << Tag("END");
-    EXPECT_EQ(s.Text(), L"001 0  END\n");
-}
-
-TEST_P(FieldFormsOn, TagLiteralThenLineEnd)
-{
-    EXPECT_EQ(Written(Tag("HEADER__")), L"HEADER__\n");
-    EXPECT_EQ(Written(Tag("END HEADER__")), L"END HEADER__\n");
-    EXPECT_EQ(Written(EndLine), L"\n");
 }
 
 TEST_P(FieldFormsOn, FieldsWidthIsUsedUpFlagsStay)
