@@ -36,7 +36,7 @@ install(TARGETS itunitechnik EXPORT ItUnitechnikTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
     INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(FILES include/itunitechnik.h ${PROJECT_BINARY_DIR}/include/itunitechnik_version.h
+install(FILES include/itunitechnik.h include/itunitechnik_types.h ${PROJECT_BINARY_DIR}/include/itunitechnik_version.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 if(MINGW)
     # For hosts whose linker makes its own import library from it.

@@ -72,6 +72,7 @@ endif()
 set(libdir ${prefix}/${LIBDIR})
 foreach(path
         include/itunitechnik.h
+        include/itunitechnik_types.h
         include/itunitechnik_version.h
         ${LIBDIR}/libitunitechnik.so
         ${LIBDIR}/libitunitechnik.so.${MAJOR}
@@ -79,9 +80,11 @@ foreach(path
         ${LIBDIR}/cmake/ItUnitechnik/ItUnitechnikConfigVersion.cmake
         ${LIBDIR}/pkgconfig/itunitechnik.pc
         lib/python3/dist-packages/unitechnik/__init__.py
+        lib/python3/dist-packages/unitechnik/_writing.py
         lib/python3/dist-packages/unitechnik/_version.py
         share/itunitechnik/dotnet/NativeMethods.cs
         share/itunitechnik/dotnet/Document.cs
+        share/itunitechnik/dotnet/DocumentValues.cs
         share/doc/itunitechnik/README.md
         share/doc/itunitechnik/docs/build.md
         ${LIBDIR}/libitunitechnik_reading.so.${MAJOR}

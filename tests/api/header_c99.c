@@ -1,5 +1,8 @@
 /* The public header compiles as strict C99, and its blocks are what the
- * host lays out. */
+ * host lays out. The header of its types comes first, to compile on its own
+ * as well; itunitechnik.h includes it. */
+#include "itunitechnik_types.h"
+
 #include "itunitechnik.h"
 
 #include <stdio.h>

@@ -39,15 +39,18 @@ foreach(path
         lib/libitunitechnik.dll.a
         lib/itunitechnik.def
         include/itunitechnik.h
+        include/itunitechnik_types.h
         include/itunitechnik_version.h
         include/itunitechnik_reading.h
         lib/cmake/ItUnitechnik/ItUnitechnikConfig.cmake
         lib/pkgconfig/itunitechnik.pc
         bindings/dotnet/NativeMethods.cs
         bindings/dotnet/Document.cs
+        bindings/dotnet/DocumentValues.cs
         bindings/dotnet/UnitechnikFile.cs
         bindings/python/pyproject.toml
         bindings/python/unitechnik/__init__.py
+        bindings/python/unitechnik/_writing.py
         bindings/python/unitechnik/_version.py
         bindings/python/unitechnik/itunitechnik.dll
         bindings/python/unitechnik/itunitechnik_reading.dll

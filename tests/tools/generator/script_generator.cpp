@@ -1,152 +1,28 @@
 #include "generator/script_generator.h"
 
-#include <nlohmann/json.hpp>
+#include "generator/random_values.h"
 
 #include <cstdio>
 #include <fstream>
-#include <random>
 #include <stdexcept>
 #include <utility>
 
+// The calls of the scripts, each with its random values (random_values.h).
 namespace ItUnitechnik::Testing {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-struct Range {
-    std::int64_t least;
-    std::int64_t most;
-};
-
-// The C types of the exports' integers.
-constexpr Range kInt32{-2147483647LL - 1, 2147483647LL};
-constexpr Range kInt16{-32768, 32767};
-constexpr Range kUInt16{0, 65535};
-constexpr Range kUInt8{0, 255};
-// The bar's bending kind is the character '0' plus its code: a code above
-// 207 makes a character above U+00FF, which ends the file where it stands.
-constexpr Range kWholeFileBendingCode{0, 207};
-
-// The standard's Mersenne twister gives the same numbers everywhere; the
-// mapping to ranges is done here, since the standard's distributions are not
-// the same on every library.
-class Random {
-public:
-    explicit Random(std::uint64_t seed) : engine_(seed) {}
-
-    std::int64_t Between(std::int64_t least, std::int64_t most)
-    {
-        const std::uint64_t span = static_cast<std::uint64_t>(most - least) + 1;
-        return least + static_cast<std::int64_t>(engine_() % span);
-    }
-
-    bool Chance(int percent) { return Between(0, 99) < percent; }
-
-    // Mostly a value of a real element, now and then one at the ends of the
-    // C type or anywhere in it.
-    std::int64_t Value(Range typical, Range type)
-    {
-        const std::int64_t roll = Between(0, 99);
-        if (roll < 90) {
-            return Between(typical.least, typical.most);
-        }
-        if (roll < 95) {
-            return Chance(50) ? type.least : type.most;
-        }
-        return Between(type.least, type.most);
-    }
-
-    // A decimal number with this many places.
-    double Decimal(double least, double most, int places)
-    {
-        double scale = 1;
-        for (int i = 0; i < places; ++i) {
-            scale *= 10;
-        }
-        const auto low = static_cast<std::int64_t>(least * scale);
-        const auto high = static_cast<std::int64_t>(most * scale);
-        return static_cast<double>(Between(low, high)) / scale;
-    }
-
-    template <class T>
-    const T& Pick(const std::vector<T>& values)
-    {
-        return values[static_cast<std::size_t>(Between(0, static_cast<std::int64_t>(values.size()) - 1))];
-    }
-
-    template <class T>
-    void Shuffle(std::vector<T>& values)
-    {
-        for (std::size_t i = values.size(); i > 1; --i) {
-            std::swap(values[i - 1], values[static_cast<std::size_t>(Between(0, static_cast<std::int64_t>(i) - 1))]);
-        }
-    }
-
-private:
-    std::mt19937_64 engine_;
-};
-
-void AppendUtf8(std::string& out, unsigned c)
-{
-    if (c < 0x80) {
-        out += static_cast<char>(c);
-    } else {
-        out += static_cast<char>(0xC0 | (c >> 6));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    }
-}
-
-// Printable characters, now and then one of Latin-1 above U+00A0.
-std::string Text(Random& random, int longest)
-{
-    std::string text;
-    const std::int64_t length = random.Between(0, longest);
-    for (std::int64_t i = 0; i < length; ++i) {
-        AppendUtf8(text,
-                   static_cast<unsigned>(random.Chance(85) ? random.Between(0x20, 0x7E) : random.Between(0xA0, 0xFF)));
-    }
-    return text;
-}
-
-std::string TwoDigits(std::int64_t value)
-{
-    char text[8];
-    std::snprintf(text, sizeof text, "%02d", static_cast<int>(value));
-    return text;
-}
-
-// dd.mm.yyyy, now and then with other separators, which are not looked at.
-std::string Date(Random& random)
-{
-    const std::string separator = random.Chance(80) ? "." : random.Pick(std::vector<std::string>{"/", "-", " "});
-    return TwoDigits(random.Between(1, 31)) + separator + TwoDigits(random.Between(1, 12)) + separator +
-           std::to_string(random.Between(1900, 2199));
-}
-
-Json Integers(Random& random, std::size_t count, Range typical)
-{
-    Json values = Json::array();
-    for (std::size_t i = 0; i < count; ++i) {
-        values.push_back(random.Value(typical, kInt32));
-    }
-    return values;
-}
-
-// A count for a list of `units`: given as it is, left out, larger than the
-// list (the tool pads it) or smaller.
-void Count(Random& random, Json& holder, const char* key, std::int64_t units)
-{
-    const std::int64_t roll = random.Between(0, 99);
-    if (roll < 40) {
-        holder[key] = units;
-    } else if (roll < 70) {
-        return;
-    } else if (roll < 85) {
-        holder[key] = units + random.Between(1, 5);
-    } else {
-        holder[key] = units > 0 ? random.Between(0, units - 1) : 0;
-    }
-}
+using Generator::Count;
+using Generator::Date;
+using Generator::Integers;
+using Generator::Json;
+using Generator::kInt16;
+using Generator::kInt32;
+using Generator::kUInt16;
+using Generator::kUInt8;
+using Generator::kWholeFileBendingCode;
+using Generator::Random;
+using Generator::Range;
+using Generator::Text;
 
 const Range kCoordinates{-2000, 14000};
 
