@@ -11,6 +11,7 @@
     const $ = (id) => document.getElementById(id);
     let viewer = null;   // the module, once it has started
     let lines = [];      // the file's lines, for the findings
+    let shown = 0;       // files shown so far; a newer one stops an older one's work
 
     function text(pointer) {
         const length = viewer._utw_length();
@@ -41,6 +42,11 @@
         return node;
     }
 
+    // Resolves once the browser has painted what the page holds now.
+    function painted() {
+        return new Promise((resolve) => requestAnimationFrame(() => setTimeout(resolve, 0)));
+    }
+
     // The SVG of render, parsed as SVG: no script, no element from outside.
     function showDrawing(svgText) {
         const holder = $('drawing');
@@ -58,24 +64,27 @@
         for (const bad of Array.from(root.querySelectorAll('script, foreignObject, iframe, image, use, a'))) {
             bad.remove();
         }
-        for (const node of Array.from(root.querySelectorAll('*'))) {
-            for (const attribute of Array.from(node.attributes)) {
-                if (/^on/i.test(attribute.name) || /href$/i.test(attribute.name)) {
-                    node.removeAttribute(attribute.name);
+        // Attributes of render's own elements; none of them calls or links.
+        const walker = parsed.createTreeWalker(root, NodeFilter.SHOW_ELEMENT);
+        for (let node = root; node; node = walker.nextNode()) {
+            for (let i = node.attributes.length - 1; i >= 0; --i) {
+                const name = node.attributes[i].name;
+                if (/^on/i.test(name) || /href$/i.test(name)) {
+                    node.removeAttribute(name);
                 }
             }
         }
-        holder.appendChild(document.importNode(root, true));
+        holder.appendChild(document.adoptNode(root));
     }
 
     function showLine(number) {
         const pre = $('file-line');
         const at = number - 1;
-        const shown = [];
+        const shownLines = [];
         for (let i = Math.max(0, at - 2); i <= Math.min(lines.length - 1, at + 2); ++i) {
-            shown.push((i === at ? '> ' : '  ') + String(i + 1).padStart(6) + ' | ' + lines[i]);
+            shownLines.push((i === at ? '> ' : '  ') + String(i + 1).padStart(6) + ' | ' + lines[i]);
         }
-        pre.textContent = shown.length > 0 ? shown.join('\n') : 'Line ' + number + ' is not in the file.';
+        pre.textContent = shownLines.length > 0 ? shownLines.join('\n') : 'Line ' + number + ' is not in the file.';
         pre.hidden = false;
     }
 
@@ -94,44 +103,77 @@
             list.appendChild(element('li', '', 'Nothing found.'));
             return;
         }
-        for (const finding of findings) {
-            const item = element('li');
-            const button = element('button');
+        // The first ones at once; a file with thousands of findings shows
+        // the rest when asked, so that it does not hold the page up.
+        const addFindings = (from, to) => {
+            const items = document.createDocumentFragment();
+            for (const finding of findings.slice(from, to)) {
+                const item = element('li');
+                const button = element('button');
+                button.type = 'button';
+                button.appendChild(element('span', 'place', 'line ' + finding.line + ':' + finding.column + ' '));
+                button.appendChild(element('span', 'code', finding.code + ' ' + finding.name));
+                button.appendChild(element('span', '', ' ' + finding.message));
+                button.addEventListener('click', () => showLine(finding.line));
+                item.appendChild(button);
+                items.appendChild(item);
+            }
+            list.appendChild(items);
+        };
+        const first = 500;
+        addFindings(0, first);
+        if (findings.length > first) {
+            const more = element('li', 'more');
+            const button = element('button', '', 'Show the other ' + (findings.length - first) + ' findings');
             button.type = 'button';
-            button.appendChild(element('span', '', 'line ' + finding.line + ':' + finding.column + ' '));
-            button.appendChild(element('span', 'code', finding.code + ' ' + finding.name));
-            button.appendChild(element('span', '', ' ' + finding.message));
-            button.addEventListener('click', () => showLine(finding.line));
-            item.appendChild(button);
-            list.appendChild(item);
+            button.addEventListener('click', () => {
+                more.remove();
+                addFindings(first, findings.length);
+            });
+            more.appendChild(button);
+            list.appendChild(more);
         }
     }
 
-    // dump --tree: one line a record, indented by nesting; a record with
-    // records in it folds.
+    // dump --tree: one line a record, indented by nesting. A record with
+    // records in it folds; its records are made when it is first unfolded,
+    // so that a file of many thousand records shows at once.
     function showTree(treeText) {
         const holder = $('tree');
         clear(holder);
         const rows = treeText.split('\n').filter((line) => line !== '');
-        const depthOf = (line) => line.length - line.replace(/^ +/, '').length;
-        const stack = [{ depth: -1, node: holder }];
-        rows.forEach((line, i) => {
-            const depth = depthOf(line);
-            while (stack.length > 1 && stack[stack.length - 1].depth >= depth) {
-                stack.pop();
+        const depths = rows.map((line) => line.length - line.replace(/^ +/, '').length);
+        // ends[i]: the first row after row i that is not inside it.
+        const ends = new Array(rows.length).fill(rows.length);
+        const open = [];
+        depths.forEach((depth, i) => {
+            while (open.length > 0 && depths[open[open.length - 1]] >= depth) {
+                ends[open.pop()] = i;
             }
-            const parent = stack[stack.length - 1].node;
-            const hasChildren = i + 1 < rows.length && depthOf(rows[i + 1]) > depth;
-            if (hasChildren) {
-                const details = element('details');
-                details.open = stack.length === 1;
-                details.appendChild(element('summary', '', line.trim()));
-                parent.appendChild(details);
-                stack.push({ depth: depth, node: details });
-            } else {
-                parent.appendChild(element('div', 'leaf', line.trim()));
-            }
+            open.push(i);
         });
+        const addRows = (parent, from, to, unfolded) => {
+            const made = document.createDocumentFragment();
+            for (let i = from; i < to; i = ends[i]) {
+                if (ends[i] > i + 1) {
+                    const details = element('details');
+                    details.appendChild(element('summary', '', rows[i].trim()));
+                    const inside = { from: i + 1, to: ends[i] };
+                    details.addEventListener('toggle', () => {
+                        if (details.open && inside.from < inside.to) {
+                            addRows(details, inside.from, inside.to, false);
+                            inside.from = inside.to;
+                        }
+                    });
+                    details.open = unfolded;
+                    made.appendChild(details);
+                } else {
+                    made.appendChild(element('div', 'leaf', rows[i].trim()));
+                }
+            }
+            parent.appendChild(made);
+        };
+        addRows(holder, 0, rows.length, true);
     }
 
     function showElement(order, elementIndex) {
@@ -143,11 +185,12 @@
             status('The viewer is still starting.', false);
             return;
         }
+        const started = performance.now();
         const at = viewer._malloc(bytes.length || 1);
         viewer.HEAPU8.set(bytes, at);
         const read = viewer._utw_open(at, bytes.length);
         viewer._free(at);
-        show(read, bytes, name);
+        show(read, bytes, name, started);
     }
 
     // The example slab, built by the module from its call script.
@@ -156,12 +199,19 @@
             status('The viewer is still starting.', false);
             return;
         }
+        const started = performance.now();
         const read = viewer._utw_example();
         const pointer = viewer._utw_bytes();
-        show(read, viewer.HEAPU8.slice(pointer, pointer + viewer._utw_length()), 'slab.uni');
+        show(read, viewer.HEAPU8.slice(pointer, pointer + viewer._utw_length()), 'slab.uni', started);
     }
 
-    function show(read, bytes, name) {
+    // Shows the file just read: the drawing first, then, once it is on the
+    // screen, the findings, the bill and the tree. The body's data-drawn-ms
+    // and data-shown-ms tell how long each took from the bytes in hand, and
+    // data-shown counts the files shown (the browser tests and the speed
+    // benchmark wait for it).
+    function show(read, bytes, name, started) {
+        const turn = ++shown;
         $('file-name').textContent = name;
         lines = new TextDecoder('latin1').decode(bytes).split(/\r?\n/);
 
@@ -175,7 +225,7 @@
             status(name + ': the file could not be read.', false);
         }
 
-        const places = JSON.parse(text(viewer._utw_elements()));
+        const places = JSON.parse(text(viewer._utw_elements()) || '[]');
         const select = $('element');
         clear(select);
         places.forEach((place, i) => {
@@ -193,15 +243,34 @@
         } else {
             showDrawing('');
         }
-
-        const nameBytes = new TextEncoder().encode(name + '\0');
-        const namePointer = viewer._malloc(nameBytes.length);
-        viewer.HEAPU8.set(nameBytes, namePointer);
-        showFindings(text(viewer._utw_check_json(namePointer)));
-        viewer._free(namePointer);
-        $('bill').textContent = text(viewer._utw_bom_text());
-        showTree(text(viewer._utw_tree()));
+        $('findings').replaceChildren(element('li', '', 'Checking…'));
+        $('finding-count').textContent = '';
+        $('file-line').hidden = true;
+        $('bill').textContent = '';
+        clear($('tree'));
         $('content').hidden = false;
+
+        const body = document.body;
+        painted().then(() => {
+            if (turn !== shown) {
+                return;
+            }
+            body.dataset.drawnMs = String(Math.round(performance.now() - started));
+            const nameBytes = new TextEncoder().encode(name + '\0');
+            const namePointer = viewer._malloc(nameBytes.length);
+            viewer.HEAPU8.set(nameBytes, namePointer);
+            showFindings(text(viewer._utw_check_json(namePointer)));
+            viewer._free(namePointer);
+            $('bill').textContent = text(viewer._utw_bom_text());
+            showTree(text(viewer._utw_tree()));
+            return painted();
+        }).then(() => {
+            if (turn !== shown) {
+                return;
+            }
+            body.dataset.shownMs = String(Math.round(performance.now() - started));
+            body.dataset.shown = String(turn);
+        });
     }
 
     function openFile(file) {
@@ -236,8 +305,15 @@
     UnitechnikViewer().then((module) => {
         viewer = module;
         status('', true);
+        const query = new URLSearchParams(window.location.search);
+        // index.html#example (or ?example): the example at once, which also
+        // works for the page opened from disk.
+        if (window.location.hash === '#example' || query.has('example')) {
+            openExample();
+            return;
+        }
         // ?file=NAME: a file beside the page, from the same server.
-        const wanted = new URLSearchParams(window.location.search).get('file');
+        const wanted = query.get('file');
         if (wanted) {
             const url = new URL(wanted, window.location.href);
             if (url.origin !== window.location.origin) {

@@ -131,7 +131,10 @@ const char* utw_elements()
             nlohmann::ordered_json item = nlohmann::ordered_json::object();
             item["order"] = place.orderIndex;
             item["element"] = place.elementIndex;
-            item["heading"] = ItUnitechnik::Drawing::Heading(ItUnitechnik::Drawing::MakeScene(place, ""));
+            // The heading needs the place alone, not the drawing's items.
+            ItUnitechnik::Drawing::Scene scene;
+            scene.place = place;
+            item["heading"] = ItUnitechnik::Drawing::Heading(scene);
             out.push_back(std::move(item));
         }
         return Give(out.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));

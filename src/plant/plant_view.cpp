@@ -2,7 +2,11 @@
 
 #include "geometry/point.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 
 namespace ItUnitechnik::Plant {
 
@@ -84,19 +88,108 @@ Iron IronOf(const ExternalIron& iron)
     return {kIron.count(iron), kIron.weight(iron), kIron.name(iron), kIron.code(iron)};
 }
 
+namespace {
+
+// pi/180 in two parts: the first has 32 bits, so that it times a whole number
+// of degrees up to 45 is exact; the second is the rest.
+constexpr double kRadiansPerDegree = 0x1.1df46a26p-6;
+constexpr double kRadiansPerDegreeRest = -0x1.ac58dd47c4e82p-39;
+
+// The series of (sin x / x - 1) / x² and of (cos x - 1 + x²/2) / x⁴ in
+// z = x², highest power first, for |x| <= pi/4, where the terms left out are
+// below 1e-19.
+constexpr double kSineSeries[] = {
+    1.0 / 355687428096000.0, -1.0 / 1307674368000.0, 1.0 / 6227020800.0, -1.0 / 39916800.0,
+    1.0 / 362880.0,          -1.0 / 5040.0,          1.0 / 120.0,        -1.0 / 6.0};
+constexpr double kCosineSeries[] = {
+    -1.0 / 6402373705728000.0, 1.0 / 20922789888000.0, -1.0 / 87178291200.0, 1.0 / 479001600.0,
+    -1.0 / 3628800.0,          1.0 / 40320.0,          -1.0 / 720.0,         1.0 / 24.0};
+
+template <std::size_t N>
+double Horner(const double (&coefficients)[N], double z)
+{
+    double sum = 0.0;
+    for (const double coefficient : coefficients) {
+        sum = sum * z + coefficient;
+    }
+    return sum;
+}
+
+// The cosine and sine of WITHIN degrees, 0 <= WITHIN < 90.
+PlanPoint FirstQuarter(double within)
+{
+    const bool complement = within > 45.0;
+    if (complement) {
+        within = 90.0 - within;
+    }
+    // x + dx radians, and z + dz = x² exactly (Dekker's product).
+    const double high = within * kRadiansPerDegree;
+    const double low = within * kRadiansPerDegreeRest;
+    const double x = high + low;
+    const double dx = low - (x - high);
+    const double z = x * x;
+    const double split = 134217729.0 * x; // 2^27 + 1
+    const double xHigh = split - (split - x);
+    const double xLow = x - xHigh;
+    const double dz = ((xHigh * xHigh - z) + 2.0 * xHigh * xLow) + xLow * xLow;
+    // The small terms summed first, the large one added last.
+    const double sine = x + (dx * (1.0 - 0.5 * z) + x * z * Horner(kSineSeries, z) - x * dz / 6.0);
+    const double half = 0.5 * z;
+    const double rest = 1.0 - half;
+    const double cosine = rest + (((1.0 - rest) - half) + (z * z * Horner(kCosineSeries, z) - 0.5 * dz - x * dx));
+    return complement ? PlanPoint{sine, cosine} : PlanPoint{cosine, sine};
+}
+
+// ALONG turned by QUARTER quarter turns; + 0.0 makes a zero +0, so that no
+// coordinate is written as -0.
+PlanPoint Turned(const PlanPoint& along, int quarter)
+{
+    switch (quarter) {
+    case 0:
+        return {along.x + 0.0, along.y + 0.0};
+    case 1:
+        return {-along.y + 0.0, along.x + 0.0};
+    case 2:
+        return {-along.x + 0.0, -along.y + 0.0};
+    default:
+        return {along.y + 0.0, -along.x + 0.0};
+    }
+}
+
+} // namespace
+
 PlanPoint Direction(double degrees)
 {
-    // Whole quarter turns come out exact, so that bars at 0, 90, 180 and 270
-    // degrees stand on whole millimetres.
-    const double turns = degrees / 90.0;
-    if (turns == std::floor(turns)) {
-        const long quarter = static_cast<long>(std::fmod(std::fmod(turns, 4.0) + 4.0, 4.0));
-        static constexpr PlanPoint kQuarters[] = {{1.0, 0.0}, {0.0, 1.0}, {-1.0, 0.0}, {0.0, -1.0}};
-        return kQuarters[quarter];
+    // Worked out with + and * alone, not by the C library's sin and cos: those
+    // differ in the last bit between libraries (the browser's and the host's),
+    // and a drawing or a finding must be the same on every platform. The turn
+    // is reduced in degrees, where a whole number stays exact: 405 points where
+    // 45 does, and whole quarter turns come out exact, so that bars at 0, 90,
+    // 180 and 270 degrees stand on whole millimetres. For whole degrees the
+    // result is the true sine and cosine rounded, or one ulp beside it. Each
+    // + and * is rounded on its own: no target built here fuses them.
+    if (std::fabs(degrees) < 2147483648.0 && degrees == std::floor(degrees)) {
+        // Whole degrees, nearly every call: the first quarter's from a table
+        // made once, the same numbers as below.
+        static const std::array<PlanPoint, 90> kWholeDegrees = [] {
+            std::array<PlanPoint, 90> table{};
+            for (std::size_t d = 0; d < table.size(); ++d) {
+                table[d] = FirstQuarter(static_cast<double>(d));
+            }
+            return table;
+        }();
+        const std::int64_t turn = (static_cast<std::int64_t>(degrees) % 360 + 360) % 360;
+        return Turned(kWholeDegrees[static_cast<std::size_t>(turn % 90)], static_cast<int>(turn / 90));
     }
-    constexpr double kPi = 3.14159265358979323846;
-    const double radians = degrees * kPi / 180.0;
-    return {std::cos(radians), std::sin(radians)};
+    double turn = std::fmod(degrees, 360.0);
+    if (std::isnan(turn)) {
+        return {turn, turn};
+    }
+    if (turn < 0.0) {
+        turn += 360.0;
+    }
+    const int quarter = std::min(3, static_cast<int>(turn / 90.0));
+    return Turned(FirstQuarter(turn - 90.0 * quarter), quarter);
 }
 
 PlanPoint MemberStart(std::int32_t x, std::int32_t y, std::int32_t rotation, std::int32_t pitch, std::int32_t i)

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <initializer_list>
 #include <utility>
 #include <vector>
@@ -126,6 +127,58 @@ TEST(BarInPlan, ABentBarShowsEachLegByTheCosineOfTheTurnsBeforeIt)
     ASSERT_EQ(hooked.size(), 3u);
     ExpectPoint(hooked[1], 0, 200);
     ExpectPoint(hooked[2], 0, 200);
+}
+
+// The last place of a double near VALUE.
+double Ulp(double value)
+{
+    return std::nextafter(std::fabs(value), 2.0) - std::fabs(value);
+}
+
+TEST(Direction, WholeAndHalfDegreesAreTheTrueSineAndCosineWithinOneUlp)
+{
+    // The reference: the host's long double sinl and cosl of the angle
+    // reduced to a half turn each way, which carry more bits than a double.
+    const long double pi = 3.14159265358979323846264338327950288L;
+    for (int halves = -1440; halves <= 1440; ++halves) {
+        if (halves % 180 == 0) {
+            continue; // exact, below; the reference is not
+        }
+        int reduced = halves % 720;
+        reduced = reduced > 360 ? reduced - 720 : reduced < -360 ? reduced + 720 : reduced;
+        const long double radians = static_cast<long double>(reduced) * pi / 360.0L;
+        const double cosine = static_cast<double>(std::cos(radians));
+        const double sine = static_cast<double>(std::sin(radians));
+        const PlanPoint along = Direction(halves / 2.0);
+        EXPECT_LE(std::fabs(along.x - cosine), Ulp(cosine)) << halves / 2.0 << " degrees";
+        EXPECT_LE(std::fabs(along.y - sine), Ulp(sine)) << halves / 2.0 << " degrees";
+    }
+}
+
+TEST(Direction, QuarterTurnsAndHalvesAreExactAndWholeTurnsChangeNothing)
+{
+    const PlanPoint quarters[] = {{1.0, 0.0}, {0.0, 1.0}, {-1.0, 0.0}, {0.0, -1.0}};
+    for (int quarter = -8; quarter <= 8; ++quarter) {
+        const PlanPoint along = Direction(90.0 * quarter);
+        const PlanPoint& expected = quarters[((quarter % 4) + 4) % 4];
+        EXPECT_EQ(along.x, expected.x) << quarter;
+        EXPECT_EQ(along.y, expected.y) << quarter;
+        // A zero is +0, so that no coordinate is written as -0.
+        EXPECT_EQ(std::signbit(along.x), expected.x < 0.0) << quarter;
+        EXPECT_EQ(std::signbit(along.y), expected.y < 0.0) << quarter;
+    }
+    EXPECT_EQ(Direction(30.0).y, 0.5);
+    EXPECT_EQ(Direction(60.0).x, 0.5);
+    EXPECT_EQ(Direction(-150.0).y, -0.5);
+    EXPECT_EQ(Direction(240.0).x, -0.5);
+    for (const double degrees : {1.0, 29.0, 44.0, 46.0, 133.0, 271.0, 359.0}) {
+        // Past 2^31 degrees as well, where whole degrees take the longer way.
+        for (const double turns : {1.0, -1.0, 1000003.0, -5965232.0, 10000019.0, -1e12}) {
+            const PlanPoint along = Direction(degrees + 360.0 * turns);
+            EXPECT_EQ(along.x, Direction(degrees).x) << degrees << " + " << turns << " turns";
+            EXPECT_EQ(along.y, Direction(degrees).y) << degrees << " + " << turns << " turns";
+        }
+    }
 }
 
 TEST(MatOf, PutsItsBarsAndGirdersAtTheMatsOrigin)

@@ -20,6 +20,7 @@
 namespace ItUnitechnik::Drawing {
 namespace {
 
+using Testing::BarSet;
 using Testing::TemporaryDirectory;
 
 GeoData Line(std::int32_t x0, std::int32_t y0, std::int32_t x1, std::int32_t y1)
@@ -167,18 +168,6 @@ TEST(FieldList, NamesEveryMemberByItsPathWithoutFill)
     EXPECT_EQ(iron.size(), 5u);
     EXPECT_EQ(ValueOf(iron, "ironValue"), "1.6");
     EXPECT_EQ(ValueOf(iron, "ironText"), "Lifting anchor");
-}
-
-Rodstock BarSet(const wchar_t* grade, std::int32_t count, std::int32_t diameter, std::int32_t length,
-                std::int32_t pitch = 0)
-{
-    Rodstock bar(600);
-    bar.designation = grade;
-    bar.firstSize = count;
-    bar.secondSize = diameter;
-    bar.thirdSize = length;
-    bar.positionZ = pitch;
-    return bar;
 }
 
 // A Q188A mesh of 52 wires, each a set of count 1: 27 of 5800 mm and 25 of
@@ -340,60 +329,6 @@ TEST(BillOfMaterials, AnEmptyKindSaysSo)
 {
     const Bom::ElementBill bill = Bom::BillOf(Order{}, ElementPart{});
     EXPECT_NE(Bom::BillText({bill}).find("Braced girders\n  none\n"), std::string::npos);
-}
-
-std::size_t Occurrences(const std::string& text, const std::string& part)
-{
-    std::size_t count = 0;
-    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
-        ++count;
-    }
-    return count;
-}
-
-// Counts and lengths that no plant makes, as a hostile or broken file holds
-// them, are drawn with their first members: 10 000 straight bars at most, a
-// bent set up to 400 000 points, 1000 girders of a group, a hundred diagonals
-// of a lattice.
-TEST(Scene, SetsAndGroupsBeyondAnyPlantsAreDrawnWithTheirFirstMembers)
-{
-    Order order;
-    order.elementParts.resize(1);
-    ElementPart& element = order.elementParts[0];
-    element.version = 600;
-    element.rodstockData.bars = {BarSet(L"500", 99999, 10, 3000, 20), BarSet(L"500", 99999, 10, 3000, 20),
-                                 BarSet(L"500", 12, 10, 3000, 20)};
-    // The second set is bent in 79 999 legs: 80 000 points a bar, 5 bars.
-    Rodstock& bent = element.rodstockData.bars[1];
-    bent.bendingKind = L'2';
-    std::vector<BendingFormSegment> legs;
-    for (int i = 0; i < 79999; ++i) {
-        legs.emplace_back(10, 0);
-    }
-    bent.freeForm.buildFromSegments(legs);
-    BracedGirder girder;
-    girder.typeNumber = 7500;
-    girder.firstSize = -2147483647 - 1;
-    girder.positionZ = 600;
-    element.bracedGirderData.girders = {girder};
-    const std::vector<Order> orders = {order};
-    const Scene scene = MakeScene(ElementPlaces(orders).at(0));
-    std::size_t bars = 0;
-    std::size_t girders = 0;
-    std::vector<std::size_t> perSet;
-    for (const Item& item : scene.items) {
-        if (item.kind == "rodstock") {
-            perSet.push_back(Occurrences(item.shapes, "M "));
-        } else if (item.kind == "bracedgirder") {
-            // Each girder: two chords, then its lattice of 101 points.
-            girders = Occurrences(item.shapes, "M ") / 3;
-            EXPECT_EQ(Occurrences(item.shapes, " L "), 1000u * (2 + 100)) << "a hundred diagonals a girder";
-        }
-        bars += item.kind == "rodstock" ? 1 : 0;
-    }
-    EXPECT_EQ(bars, 3u);
-    EXPECT_EQ(perSet, (std::vector<std::size_t>{10000, 5, 12}));
-    EXPECT_EQ(girders, 1000u);
 }
 
 } // namespace

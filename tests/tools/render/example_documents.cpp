@@ -80,4 +80,16 @@ std::vector<Order> ReadBack(const std::string& path)
     return document.orders;
 }
 
+Rodstock BarSet(const wchar_t* grade, std::int32_t count, std::int32_t diameter, std::int32_t length,
+                std::int32_t pitch)
+{
+    Rodstock bar(600);
+    bar.designation = grade;
+    bar.firstSize = count;
+    bar.secondSize = diameter;
+    bar.thirdSize = length;
+    bar.positionZ = pitch;
+    return bar;
+}
+
 } // namespace ItUnitechnik::Testing

@@ -2,6 +2,7 @@
 
 #include "records/order/order.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,11 @@ std::string WriteExampleSlab(const std::string& directory);
 // make straight pieces only, so the arc and the circle are records put into
 // the element by hand; the file is written through the records' Write.
 std::string WriteArchedSlab(const std::string& directory);
+
+// A loose bar as the plant reads a set: COUNT bars of DIAMETER and LENGTH,
+// PITCH apart, of GRADE; version 600.
+Rodstock BarSet(const wchar_t* grade, std::int32_t count, std::int32_t diameter, std::int32_t length,
+                std::int32_t pitch = 0);
 
 // A file read as the tool reads it; the test fails when the reading stops.
 std::vector<Order> ReadBack(const std::string& path);

@@ -2,6 +2,7 @@
 
 #include "plant/plant_text.h"
 #include "plant/plant_view.h"
+#include "render/drawn_sets.h"
 #include "render/markup_text.h"
 
 #include <algorithm>
@@ -12,61 +13,6 @@
 namespace ItUnitechnik::Drawing {
 
 namespace {
-
-// Every record of an element that the drawing knows, with the prefix of its
-// id: the element's own, then those of each layer (and its lots).
-template <class Visitor>
-void Walk(const ElementPart& element, const std::string& prefix, Visitor& visitor)
-{
-    const auto outline = [&](const ContourData& contours, const CutoutData& cutouts, const std::string& at) {
-        for (const Contour& contour : contours.contours) {
-            visitor.Outline(at, contour);
-        }
-        for (const Cutout& cutout : cutouts.cutouts) {
-            visitor.Opening(at, cutout);
-        }
-    };
-    const auto block = [&](const Reinforcement& reinforcement, const std::string& at) {
-        for (const Steelmat& mat : reinforcement.mats) {
-            visitor.Mat(at, mat);
-        }
-        if (reinforcement.hasExternalIrons) {
-            for (const ExternalIron& iron : reinforcement.externalIrons.irons) {
-                visitor.Iron(at + "reinforcement-", iron);
-            }
-        }
-    };
-
-    outline(element.contourData, element.cutoutData, prefix);
-    for (std::size_t l = 0; l < element.layers.size(); ++l) {
-        const Layer& layer = element.layers[l];
-        const std::string at = prefix + "layer-" + std::to_string(l + 1) + "-";
-        for (const Lot& lot : layer.lots) {
-            outline(lot.contourData, lot.cutoutData, at + "lot-" + std::to_string(lot.lotNumber) + "-");
-        }
-    }
-    block(element.reinforcement, prefix);
-    for (std::size_t l = 0; l < element.layers.size(); ++l) {
-        block(element.layers[l].reinforcement, prefix + "layer-" + std::to_string(l + 1) + "-");
-    }
-    for (const BracedGirder& girder : element.bracedGirderData.girders) {
-        visitor.Girder(prefix, girder);
-    }
-    for (const Rodstock& bar : element.rodstockData.bars) {
-        visitor.Bar(prefix, bar);
-    }
-    for (const MountingPart& part : element.mountingPartData.parts) {
-        visitor.Part(prefix, part);
-    }
-    for (std::size_t l = 0; l < element.layers.size(); ++l) {
-        for (const MountingPart& part : element.layers[l].mountingPartData.parts) {
-            visitor.Part(prefix + "layer-" + std::to_string(l + 1) + "-", part);
-        }
-    }
-    for (const ExternalIron& iron : element.externalIronData.irons) {
-        visitor.Iron(prefix, iron);
-    }
-}
 
 BoxD RectBox(double x, double y, double width, double height)
 {
@@ -79,108 +25,6 @@ BoxD RectBox(double x, double y, double width, double height)
 BoxD MatBox(const Plant::Mat& mat)
 {
     return RectBox(mat.x, mat.y, mat.length, mat.width);
-}
-
-PointD Drawn(const Plant::PlanPoint& point)
-{
-    return {point.x, point.y};
-}
-
-// A set or group is drawn with its first members up to these bounds: counts
-// and legs that no plant would make must not hold the drawing up. A set of
-// 10 000 straight bars is drawn whole; a bent one with fewer, so that no set
-// makes more than the points below.
-constexpr std::int32_t kMostBars = 10000;
-constexpr std::size_t kMostPointsOfASet = 400000;
-constexpr std::int32_t kMostGirders = 1000;
-// The sets and groups of an element share this many points, each an even
-// share up to the bounds above (and at least its first member), so that an
-// element of thousands of such sets still draws in seconds, in a browser too.
-constexpr std::size_t kMostPointsOfAnElement = 1000000;
-// A girder: two chords of two points each and a lattice of up to 101.
-constexpr std::size_t kPointsOfAGirder = 105;
-
-std::int32_t DrawnBars(const Plant::BarSet& set, std::size_t share)
-{
-    const std::size_t pointsOfABar = set.legs.size() + 1;
-    const auto byPoints = static_cast<std::int32_t>(std::max<std::size_t>(1, share / pointsOfABar));
-    return std::clamp(set.count, 0, std::min(kMostBars, byPoints));
-}
-
-// Each bar of the set in plan, as many as its SHARE of points holds.
-template <class Visit>
-void ForEachBar(const Plant::BarSet& set, std::size_t share, Visit visit)
-{
-    const std::int32_t drawn = DrawnBars(set, share);
-    for (std::int32_t i = 0; i < drawn; ++i) {
-        std::vector<PointD> points;
-        for (const Plant::PlanPoint& point : Plant::BarInPlan(set, i)) {
-            points.push_back(Drawn(point));
-        }
-        visit(points);
-    }
-}
-
-// Each girder of the group in plan, as many as its SHARE of points holds:
-// the start of its axis.
-template <class Visit>
-void ForEachGirder(const Plant::GirderGroup& group, std::size_t share, Visit visit)
-{
-    const auto byPoints = static_cast<std::int32_t>(std::max<std::size_t>(1, share / kPointsOfAGirder));
-    const std::int32_t drawn = std::clamp(group.count, 0, std::min(kMostGirders, byPoints));
-    for (std::int32_t i = 0; i < drawn; ++i) {
-        visit(Drawn(Plant::GirderInPlan(group, i).front()));
-    }
-}
-
-BoxD GirderBox(const Plant::GirderGroup& group, std::size_t share)
-{
-    BoxD box;
-    const double direction = static_cast<double>(group.rotation);
-    ForEachGirder(group, share, [&](PointD start) {
-        for (const PointD& point : {start, Along(start, direction, static_cast<double>(group.length))}) {
-            box.Widen(Along(point, direction + 90.0, kGirderDrawnWidth / 2.0));
-            box.Widen(Along(point, direction - 90.0, kGirderDrawnWidth / 2.0));
-        }
-    });
-    return box;
-}
-
-BoxD BarBox(const Plant::BarSet& set, std::size_t share)
-{
-    BoxD box;
-    ForEachBar(set, share, [&](const std::vector<PointD>& points) {
-        for (const PointD& point : points) {
-            box.Widen(point);
-        }
-    });
-    return box;
-}
-
-// The number of sets and groups, those of mats included.
-class SetCounter {
-public:
-    std::size_t sets = 0;
-
-    void Outline(const std::string&, const Contour&) {}
-    void Opening(const std::string&, const Cutout&) {}
-    void Part(const std::string&, const MountingPart&) {}
-    void Bar(const std::string&, const Rodstock&) { ++sets; }
-    void Girder(const std::string&, const BracedGirder&) { ++sets; }
-    void Mat(const std::string&, const Steelmat& record)
-    {
-        sets += record.rodstocks.bars.size() + record.girders.girders.size();
-    }
-    void Iron(const std::string&, const ExternalIron&) {}
-};
-
-// The points of each set and group of ELEMENT: an even share of the
-// element's, up to a set's own bound.
-std::size_t PointsOfASet(const ElementPart& element, const std::string& prefix)
-{
-    SetCounter counter;
-    Walk(element, prefix, counter);
-    return std::min(kMostPointsOfASet, kMostPointsOfAnElement / std::max<std::size_t>(1, counter.sets));
 }
 
 // The box of everything drawn.
@@ -354,7 +198,8 @@ private:
         item.summary = Plant::SetSummary(set);
         std::string data;
         ForEachBar(set, share_, [&](const std::vector<PointD>& points) {
-            data += (data.empty() ? "" : " ") + PolylinePath(points);
+            data += data.empty() ? "" : " ";
+            data += PolylinePath(points);
         });
         // The diameter is the stroke's width, in the drawing's millimetres.
         const double diameter = std::abs(static_cast<double>(set.diameter));
@@ -373,8 +218,10 @@ private:
         ForEachGirder(group, share_, [&](PointD start) {
             const GirderPaths paths =
                 GirderDrawing(start, static_cast<double>(group.rotation), static_cast<double>(group.length));
-            chords += (chords.empty() ? "" : " ") + paths.chords;
-            lattice += (lattice.empty() ? "" : " ") + paths.lattice;
+            chords += chords.empty() ? "" : " ";
+            chords += paths.chords;
+            lattice += lattice.empty() ? "" : " ";
+            lattice += paths.lattice;
         });
         item.shapes = Path("girder-chord", chords, " stroke-width=\"8\"") +
                       Path("girder-lattice", lattice, " stroke-width=\"5\"");

@@ -19,7 +19,8 @@ std::string Title(const Item& item)
 
 void AddItem(std::string& out, const Item& item)
 {
-    out += "<g class=\"" + item.kind + "\" id=\"" + Escaped(item.id) + "\">" + Title(item) + item.shapes;
+    out += "<g class=\"" + item.kind + "\" id=\"" + Escaped(item.id) + "\">" + Title(item);
+    out += item.shapes; // on its own: a set's shapes can be megabytes
     for (const Item& part : item.parts) {
         AddItem(out, part);
     }
