@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <type_traits>
+#include <vector>
 
 // A record's lines are written down once, as a function template
 //
@@ -39,6 +41,7 @@
 //   LineGoesOn(condition)      whether optional fields follow on the line:
 //                              the condition when writing; when reading,
 //                              whether the line has not ended
+// ListLayout below frames a list record in these words.
 // `make()` gives a fresh entry where the entries' type has no default.
 // Member names are the record's own ("designation", "position.x"): a field
 // sink reports under them, and the tool's field table is checked by them.
@@ -69,5 +72,28 @@ struct NotBelowZero {
 // Marks a text the records' own Read takes as a token.
 struct TokenMark {};
 inline constexpr TokenMark Token{};
+
+// A list record (contours, cutouts, mounted parts, bars, girders, external
+// irons): its tag, its version, the count of its entries in `countWidth`
+// places (a number, or what a function of the version gives), each entry on
+// its lines and ended by a line end, and "END".
+template <class IO, class T, class Width, class... Make>
+void ListLayout(IO& io, const char* tag, Width countWidth, std::int16_t& version, std::vector<T>& entries,
+                const char* name, Make... make)
+{
+    io.Tag(tag);
+    io.UInt(3, version, "version");
+    io.EndLine();
+    int width = 0;
+    if constexpr (std::is_invocable<Width, std::int16_t>::value) {
+        width = countWidth(version);
+    } else {
+        width = countWidth;
+    }
+    const std::size_t count = io.Count(width, entries, name);
+    io.EndLine();
+    io.Lines(count, entries, make...);
+    io.Tag("END");
+}
 
 } // namespace ItUnitechnik

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "framework/layout.h"
 #include "framework/serializable.h"
 #include "geometry/curve.h"
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 namespace ItUnitechnik {
 
@@ -36,5 +38,16 @@ public:
     wchar_t elementKind = 0;      // first field
     std::unique_ptr<Curve> curve; // the rest of the line
 };
+
+// The pieces of an outline (a contour, a cutout, a mounted part): their count
+// ends the outline's own line, then each piece stands on a line of its own,
+// of the outline's version. An outline with no piece still ends its line; the
+// list ends the last piece's.
+template <class IO>
+void PiecesLayout(IO& io, std::int32_t version, std::vector<GeoData>& pieces)
+{
+    const std::size_t count = io.Count(2, pieces, "geoData");
+    io.OwnLines(count, pieces, [version] { return GeoData(version); });
+}
 
 } // namespace ItUnitechnik

@@ -55,20 +55,13 @@ void Layout(IO& io, Contour& contour)
     io.Blank();
     io.ZText(2, contour.contourCode, "contourCode", Token);
     io.Blank();
-    const std::size_t count = io.Count(2, contour.geoData, "geoData");
-    io.OwnLines(count, contour.geoData, [&contour] { return GeoData(contour.version); });
+    PiecesLayout(io, contour.version, contour.geoData);
 }
 
 template <class IO>
 void Layout(IO& io, ContourData& data)
 {
-    io.Tag("CONTOUR_");
-    io.UInt(3, data.version, "version");
-    io.EndLine();
-    const std::size_t count = io.Count(2, data.contours, "contours");
-    io.EndLine();
-    io.Lines(count, data.contours, [&data] { return Contour(data.version); });
-    io.Tag("END");
+    ListLayout(io, "CONTOUR_", 2, data.version, data.contours, "contours", [&data] { return Contour(data.version); });
 }
 
 } // namespace ItUnitechnik

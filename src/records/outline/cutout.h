@@ -52,20 +52,13 @@ void Layout(IO& io, Cutout& cutout)
         io.Text(40, cutout.cutoutName, "cutoutName");
         io.Blank();
     }
-    const std::size_t count = io.Count(2, cutout.geoData, "geoData");
-    io.OwnLines(count, cutout.geoData, [&cutout] { return GeoData(cutout.version); });
+    PiecesLayout(io, cutout.version, cutout.geoData);
 }
 
 template <class IO>
 void Layout(IO& io, CutoutData& data)
 {
-    io.Tag("CUTOUT__");
-    io.UInt(3, data.version, "version");
-    io.EndLine();
-    const std::size_t count = io.Count(2, data.cutouts, "cutouts");
-    io.EndLine();
-    io.Lines(count, data.cutouts, [&data] { return Cutout(data.version); });
-    io.Tag("END");
+    ListLayout(io, "CUTOUT__", 2, data.version, data.cutouts, "cutouts", [&data] { return Cutout(data.version); });
 }
 
 } // namespace ItUnitechnik

@@ -101,21 +101,16 @@ void Layout(IO& io, MountingPart& part)
     io.Blank();
     io.UInt(5, part.partHeight, "partHeight");
     io.Blank();
-    const std::size_t count = io.Count(2, part.geoData, "geoData");
-    io.OwnLines(count, part.geoData, [&part] { return GeoData(part.version); });
+    PiecesLayout(io, part.version, part.geoData);
 }
 
 // The count has two places below 502, three from it.
 template <class IO>
 void Layout(IO& io, MountingPartData& data)
 {
-    io.Tag("MOUNPART");
-    io.UInt(3, data.version, "version");
-    io.EndLine();
-    const std::size_t count = io.Count(data.version < 502 ? 2 : 3, data.parts, "parts");
-    io.EndLine();
-    io.Lines(count, data.parts, [&data] { return MountingPart(data.version); });
-    io.Tag("END");
+    ListLayout(
+        io, "MOUNPART", [](std::int16_t version) { return version < 502 ? 2 : 3; }, data.version, data.parts, "parts",
+        [&data] { return MountingPart(data.version); });
 }
 
 } // namespace ItUnitechnik

@@ -123,13 +123,7 @@ void Layout(IO& io, BracedGirder& girder)
 template <class IO>
 void Layout(IO& io, BracedGirderData& data)
 {
-    io.Tag("BRGIRDER");
-    io.UInt(3, data.version, "version");
-    io.EndLine();
-    const std::size_t count = io.Count(3, data.girders, "girders");
-    io.EndLine();
-    io.Lines(count, data.girders);
-    io.Tag("END");
+    ListLayout(io, "BRGIRDER", 3, data.version, data.girders, "girders");
 }
 
 } // namespace ItUnitechnik

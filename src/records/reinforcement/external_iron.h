@@ -65,13 +65,7 @@ void Layout(IO& io, ExternalIron& iron)
 template <class IO>
 void Layout(IO& io, ExternalIronData& data)
 {
-    io.Tag("EXTIRON_");
-    io.UInt(3, data.version, "version");
-    io.EndLine();
-    const std::size_t count = io.Count(3, data.irons, "irons");
-    io.EndLine();
-    io.Lines(count, data.irons);
-    io.Tag("END");
+    ListLayout(io, "EXTIRON_", 3, data.version, data.irons, "irons");
 }
 
 } // namespace ItUnitechnik

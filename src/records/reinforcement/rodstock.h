@@ -151,13 +151,7 @@ void Layout(IO& io, Rodstock& bar)
 template <class IO>
 void Layout(IO& io, RodstockData& data)
 {
-    io.Tag("RODSTOCK");
-    io.UInt(3, data.version, "version");
-    io.EndLine();
-    const std::size_t count = io.Count(3, data.bars, "bars");
-    io.EndLine();
-    io.Lines(count, data.bars, [&data] { return Rodstock(data.version); });
-    io.Tag("END");
+    ListLayout(io, "RODSTOCK", 3, data.version, data.bars, "bars", [&data] { return Rodstock(data.version); });
 }
 
 } // namespace ItUnitechnik
