@@ -7,6 +7,7 @@
 #include "geometry/line_segment.h"
 #include "input/json_input.h"
 #include "itunitechnik.h"
+#include "plant/plant_meanings.h"
 #include "reading/tolerant_reading.h"
 #include "support/test_support.h"
 
@@ -83,12 +84,13 @@ std::vector<Order> ReadBack(const std::string& path)
 Rodstock BarSet(const wchar_t* grade, std::int32_t count, std::int32_t diameter, std::int32_t length,
                 std::int32_t pitch)
 {
+    // Through the plant's table, the one place that says which member is which.
     Rodstock bar(600);
-    bar.designation = grade;
-    bar.firstSize = count;
-    bar.secondSize = diameter;
-    bar.thirdSize = length;
-    bar.positionZ = pitch;
+    Plant::kBar.grade.set(bar, grade);
+    Plant::kBar.count.set(bar, count);
+    Plant::kBar.diameter.set(bar, diameter);
+    Plant::kBar.length.set(bar, length);
+    Plant::kBar.pitch.set(bar, pitch);
     return bar;
 }
 
