@@ -1,15 +1,9 @@
 #include "records/element/concrete_layer.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
-
-bool ConcreteLayer::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
-}
 
 bool ConcreteLayer::Read(Archive& ar)
 {

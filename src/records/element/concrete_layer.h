@@ -1,7 +1,7 @@
 #pragma once
 
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 
 #include <cstdint>
 #include <string>
@@ -10,13 +10,12 @@ namespace ItUnitechnik {
 
 // One line of the element's list of concrete layers. It writes no line end:
 // the element does that.
-class ConcreteLayer final : public Serializable {
+class ConcreteLayer final : public LaidOut<ConcreteLayer> {
 public:
     // The version of the element the layer belongs to.
     explicit ConcreteLayer(std::int32_t elementVersion = 502) : version(elementVersion) {}
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int32_t version;            // not written; the same number as the element's version
     std::int32_t layerNumber = 0;    // first field, running number from 1

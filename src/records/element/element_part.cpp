@@ -1,7 +1,6 @@
 #include "records/element/element_part.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 
 namespace ItUnitechnik {
 
@@ -47,11 +46,6 @@ void ElementPart::setVersion(std::int16_t newVersion)
 bool ElementPart::HasLongLines() const
 {
     return version > 500 || version == 5;
-}
-
-bool ElementPart::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 } // namespace ItUnitechnik

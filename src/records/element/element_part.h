@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 #include "geometry/edge.h"
 #include "geometry/point.h"
 #include "records/element/concrete_layer.h"
@@ -25,7 +25,7 @@ namespace ItUnitechnik {
 
 // One precast element, a slab: the record "SLABDATE" ... "END SLABDATE". Its
 // own lines come first, closed by "END"; the nested records follow.
-class ElementPart : public Serializable,
+class ElementPart : public LaidOut<ElementPart>,
                     public ItCollectionImpl<std::vector<ConcreteLayer>>,
                     public ItCollectionImpl<std::vector<Contour>>,
                     public ItCollectionImpl<std::vector<Cutout>>,
@@ -38,7 +38,6 @@ public:
     ElementPart();
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     // The collections' operations by element type; Clear is called through
     // the base of the collection meant.

@@ -1,15 +1,9 @@
 #include "records/element/plaster.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
-
-bool Plaster::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
-}
 
 bool Plaster::Read(Archive& ar)
 {

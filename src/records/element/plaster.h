@@ -1,7 +1,7 @@
 #pragma once
 
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 
 #include <cstdint>
 #include <string>
@@ -10,12 +10,11 @@ namespace ItUnitechnik {
 
 // A field group on the element's line; it has no version of its own and
 // writes no line end.
-class Plaster : public Serializable {
+class Plaster : public LaidOut<Plaster> {
 public:
     Plaster() = default;
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int32_t plasterNumber = 0; // first field
     std::wstring plasterName;       // second field, 8 places

@@ -1,7 +1,6 @@
 #include "records/order/address.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "records/order/text_lines.h"
 
 namespace ItUnitechnik {
@@ -9,11 +8,6 @@ namespace ItUnitechnik {
 bool Address::Read(Archive& ar)
 {
     return ReadTextLines(ar, {&addressText1, &addressText2, &addressText3, &addressText4});
-}
-
-bool Address::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 } // namespace ItUnitechnik

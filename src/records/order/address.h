@@ -1,17 +1,16 @@
 #pragma once
 
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 
 #include <string>
 
 namespace ItUnitechnik {
 
 // One of the order's two addresses: four lines, the third the short one.
-class Address : public Serializable {
+class Address : public LaidOut<Address> {
 public:
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::wstring addressText1; // 25 wide
     std::wstring addressText2; // 25 wide

@@ -1,7 +1,6 @@
 #include "records/order/date.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 #include <climits>
@@ -76,11 +75,6 @@ bool Date::Read(Archive& ar)
     SkipChar(inner);
     inner >> year;
     return Healthy(ar);
-}
-
-bool Date::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 } // namespace ItUnitechnik

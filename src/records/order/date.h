@@ -1,7 +1,7 @@
 #pragma once
 
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 
 #include <cstdint>
 #include <string>
@@ -9,7 +9,7 @@
 namespace ItUnitechnik {
 
 // The order's date: one field on a line of its own, which the order ends.
-class Date : public Serializable {
+class Date : public LaidOut<Date> {
 public:
     Date() = default;
     // Reads the text by position: day at 0 and 1, month at 3 and 4, year from
@@ -21,7 +21,6 @@ public:
     Date(const std::wstring& text, std::int16_t version);
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int16_t version = 502; // decides the year's width: 2 below 502, else 4
     std::int16_t day = 0;

@@ -1,7 +1,6 @@
 #include "records/order/order.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 #include <utility>
@@ -16,7 +15,7 @@ Order::Order()
 }
 
 Order::Order(const Order& other)
-    : Serializable(other), ItCollectionImpl<std::vector<ElementPart>>(other), version(other.version),
+    : LaidOut(other), ItCollectionImpl<std::vector<ElementPart>>(other), version(other.version),
       orderNumber(other.orderNumber), orderText5(other.orderText5), orderText4(other.orderText4),
       orderText8(other.orderText8), orderValue2(other.orderValue2), legacyText2(other.legacyText2),
       legacyText40(other.legacyText40), orderText2(other.orderText2), project(other.project),
@@ -27,7 +26,7 @@ Order::Order(const Order& other)
 }
 
 Order::Order(Order&& other) noexcept
-    : Serializable(other), ItCollectionImpl<std::vector<ElementPart>>(std::move(other)), version(other.version),
+    : LaidOut(other), ItCollectionImpl<std::vector<ElementPart>>(std::move(other)), version(other.version),
       orderNumber(std::move(other.orderNumber)), orderText5(std::move(other.orderText5)),
       orderText4(std::move(other.orderText4)), orderText8(std::move(other.orderText8)), orderValue2(other.orderValue2),
       legacyText2(std::move(other.legacyText2)), legacyText40(std::move(other.legacyText40)),
@@ -92,11 +91,6 @@ void Order::setVersion(std::int16_t newVersion)
     for (ElementPart& element : elementParts) {
         element.setVersion(newVersion);
     }
-}
-
-bool Order::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool Order::Read(Archive& ar)

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 #include "records/element/element_part.h"
 #include "records/order/address.h"
 #include "records/order/date.h"
@@ -16,7 +16,7 @@ namespace ItUnitechnik {
 
 // One production order: the record "HEADER__" ... "END HEADER__". Its layout
 // changes at 502/503 and at 600.
-class Order : public Serializable, public ItCollectionImpl<std::vector<ElementPart>> {
+class Order : public LaidOut<Order>, public ItCollectionImpl<std::vector<ElementPart>> {
 public:
     Order();
     // Copies and moves store the version into the date again.
@@ -26,7 +26,6 @@ public:
     Order& operator=(Order&& other) noexcept;
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
     // The version of a new order, given to the order, its date and each of
     // its elements with everything below them: the one place it is handed
     // down.

@@ -1,7 +1,6 @@
 #include "records/order/project.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 #include "records/order/text_lines.h"
 
@@ -10,11 +9,6 @@ namespace ItUnitechnik {
 bool Project::Read(Archive& ar)
 {
     return ReadTextLines(ar, {&projectText1, &projectText2, &projectText3, &projectText4});
-}
-
-bool Project::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 } // namespace ItUnitechnik

@@ -1,17 +1,16 @@
 #pragma once
 
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 
 #include <string>
 
 namespace ItUnitechnik {
 
 // The order's project: four lines of text behind the identifying line.
-class Project : public Serializable {
+class Project : public LaidOut<Project> {
 public:
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::wstring projectText1; // line 4 of the order, 20 wide
     std::wstring projectText2; // line 5

@@ -1,7 +1,6 @@
 #include "records/outline/contour.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
@@ -10,11 +9,6 @@ namespace ItUnitechnik {
 Contour::Contour(std::int32_t formatVersion)
     : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Contour&>(self).geoData; }), version(formatVersion)
 {
-}
-
-bool Contour::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool Contour::Read(Archive& ar)
@@ -35,11 +29,6 @@ bool Contour::Read(Archive& ar)
 ContourData::ContourData()
     : ItCollectionImpl([](auto& self) -> auto& { return static_cast<ContourData&>(self).contours; })
 {
-}
-
-bool ContourData::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool ContourData::Read(Archive& ar)

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 #include "geometry/bounding_box.h"
 #include "geometry/geo_data.h"
 
@@ -13,12 +13,11 @@
 namespace ItUnitechnik {
 
 // One outline of the "CONTOUR_" record: a numbered list of elements.
-class Contour : public Serializable, public ItCollectionImpl<std::vector<GeoData>> {
+class Contour : public LaidOut<Contour>, public ItCollectionImpl<std::vector<GeoData>> {
 public:
     explicit Contour(std::int32_t formatVersion);
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     // The box of all its curves; the inverted box when there is none.
     BoundingBox boundingBox() const;
@@ -30,14 +29,13 @@ public:
 };
 
 // The record "CONTOUR_": the outlines of an element or a lot.
-class ContourData : public Serializable, public ItCollectionImpl<std::vector<Contour>> {
+class ContourData : public LaidOut<ContourData>, public ItCollectionImpl<std::vector<Contour>> {
 public:
     ContourData();
 
     // Reads the record's own version from its second line and appends the
     // contours; a wrong "END" fails the Read but leaves `valid` alone.
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     // The box of all curves of all contours; the inverted box when there is
     // none.

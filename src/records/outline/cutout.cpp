@@ -1,7 +1,6 @@
 #include "records/outline/cutout.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
@@ -10,11 +9,6 @@ namespace ItUnitechnik {
 Cutout::Cutout(std::int32_t formatVersion)
     : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Cutout&>(self).geoData; }), version(formatVersion)
 {
-}
-
-bool Cutout::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool Cutout::Read(Archive& ar)
@@ -33,11 +27,6 @@ bool Cutout::Read(Archive& ar)
 
 CutoutData::CutoutData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<CutoutData&>(self).cutouts; })
 {
-}
-
-bool CutoutData::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool CutoutData::Read(Archive& ar)

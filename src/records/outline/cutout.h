@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 #include "geometry/geo_data.h"
 
 #include <cstdint>
@@ -13,12 +13,11 @@ namespace ItUnitechnik {
 
 // One opening of the "CUTOUT__" record: a numbered list of elements with a
 // value and, from version 600 on, a name.
-class Cutout : public Serializable, public ItCollectionImpl<std::vector<GeoData>> {
+class Cutout : public LaidOut<Cutout>, public ItCollectionImpl<std::vector<GeoData>> {
 public:
     explicit Cutout(std::int32_t formatVersion);
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int32_t version;          // not written; decides the name's field and goes to the elements
     std::int32_t cutoutNumber = 0; // first field, running number from 1
@@ -28,13 +27,12 @@ public:
 };
 
 // The record "CUTOUT__": the openings of an element or a lot.
-class CutoutData : public Serializable, public ItCollectionImpl<std::vector<Cutout>> {
+class CutoutData : public LaidOut<CutoutData>, public ItCollectionImpl<std::vector<Cutout>> {
 public:
     CutoutData();
 
     // A wrong tag at either end clears the Archive's `valid`.
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int16_t version = 502;  // second line
     std::vector<Cutout> cutouts; // behind the count

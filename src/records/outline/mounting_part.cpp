@@ -1,7 +1,6 @@
 #include "records/outline/mounting_part.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
@@ -11,11 +10,6 @@ MountingPart::MountingPart(std::int16_t formatVersion)
     : ItCollectionImpl([](auto& self) -> auto& { return static_cast<MountingPart&>(self).geoData; }),
       version(formatVersion)
 {
-}
-
-bool MountingPart::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool MountingPart::Read(Archive& ar)
@@ -52,11 +46,6 @@ bool MountingPart::Read(Archive& ar)
 MountingPartData::MountingPartData()
     : ItCollectionImpl([](auto& self) -> auto& { return static_cast<MountingPartData&>(self).parts; })
 {
-}
-
-bool MountingPartData::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool MountingPartData::Read(Archive& ar)

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 #include "geometry/geo_data.h"
 #include "geometry/point.h"
 
@@ -15,14 +15,13 @@ namespace ItUnitechnik {
 // One part set into an element: codes, texts, a size, a place and an outline.
 // Version 502 widened its number to three digits; version 600 added the two
 // text lines and the position.
-class MountingPart : public Serializable, public ItCollectionImpl<std::vector<GeoData>> {
+class MountingPart : public LaidOut<MountingPart>, public ItCollectionImpl<std::vector<GeoData>> {
 public:
     explicit MountingPart(std::int16_t formatVersion);
 
     // Behind a line or polygon element, which has already skipped its own
     // line end, the closing skip of this reader drops the whole next line.
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int16_t version;                           // not written; decides the widths and lines
     std::int32_t partNumber = 0;                    // line 1, running number from 1
@@ -44,13 +43,12 @@ public:
 };
 
 // The record "MOUNPART": the parts set into an element.
-class MountingPartData : public Serializable, public ItCollectionImpl<std::vector<MountingPart>> {
+class MountingPartData : public LaidOut<MountingPartData>, public ItCollectionImpl<std::vector<MountingPart>> {
 public:
     MountingPartData();
 
     // A wrong tag at either end clears the Archive's `valid`.
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int16_t version = 502;      // second line
     std::vector<MountingPart> parts; // behind the count

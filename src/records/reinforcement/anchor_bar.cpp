@@ -1,25 +1,14 @@
 #include "records/reinforcement/anchor_bar.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
-
-bool AnchorBar::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
-}
 
 bool AnchorBar::Read(Archive& ar)
 {
     ar >> firstType >> secondType >> firstLength >> secondLength;
     return Healthy(ar);
-}
-
-bool AnchorBarData::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool AnchorBarData::Read(Archive& ar)

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 
 #include <cstdint>
 #include <vector>
@@ -11,12 +11,11 @@ namespace ItUnitechnik {
 
 // One anchor bar of a braced girder: a line of four numbers that ends in a
 // blank.
-class AnchorBar final : public Serializable {
+class AnchorBar final : public LaidOut<AnchorBar> {
 public:
     AnchorBar() = default;
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int32_t firstType = 0;    // 3 digits, first on the line
     std::int32_t secondType = 0;   // 3 digits
@@ -25,12 +24,11 @@ public:
 };
 
 // The anchor bars of a braced girder, behind the girder's lines; no tag.
-class AnchorBarData : public Serializable, public ItCollectionImpl<std::vector<AnchorBar>> {
+class AnchorBarData : public LaidOut<AnchorBarData>, public ItCollectionImpl<std::vector<AnchorBar>> {
 public:
     AnchorBarData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<AnchorBarData&>(self).bars; }) {}
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int32_t anchorCode = 0; // head line, 3 digits, before the count
     std::vector<AnchorBar> bars; // one line each, behind the head line

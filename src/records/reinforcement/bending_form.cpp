@@ -1,15 +1,9 @@
 #include "records/reinforcement/bending_form.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
-
-bool BendingForm::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
-}
 
 bool BendingForm::Read(Archive& ar)
 {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 
 #include <cstdint>
 #include <string>
@@ -11,12 +11,11 @@ namespace ItUnitechnik {
 // A coded bending form of a bar: the code and its five parameters, on the
 // line that follows the bar's second line. The bar writes two of them side by
 // side; the line is ended by whoever writes the bar.
-class BendingForm : public Serializable {
+class BendingForm : public LaidOut<BendingForm> {
 public:
     BendingForm() = default;
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::wstring formCode;       // at least 3 places, zero-filled; never cut
     std::int32_t formValueA = 0; // 5 digits

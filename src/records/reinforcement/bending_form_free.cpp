@@ -1,25 +1,14 @@
 #include "records/reinforcement/bending_form_free.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
-
-bool BendingFormSegment::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
-}
 
 bool BendingFormSegment::Read(Archive& ar)
 {
     ar >> length >> angle;
     return Healthy(ar);
-}
-
-bool BendingFormPart::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool BendingFormPart::Read(Archive& ar)
@@ -35,11 +24,6 @@ bool BendingFormPart::Read(Archive& ar)
         segments.push_back(segment);
     }
     return Healthy(ar);
-}
-
-bool BendingFormFree::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool BendingFormFree::Read(Archive& ar)

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 
 #include <cstdint>
 #include <string>
@@ -11,7 +11,7 @@
 namespace ItUnitechnik {
 
 // One segment of a free bending form: a length and the angle that follows it.
-class BendingFormSegment final : public Serializable {
+class BendingFormSegment final : public LaidOut<BendingFormSegment> {
 public:
     explicit BendingFormSegment(std::int32_t segmentLength = 0, std::int32_t segmentAngle = 0)
         : length(segmentLength), angle(segmentAngle)
@@ -19,14 +19,13 @@ public:
     }
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int32_t length = 0; // 5 digits, no sign
     std::int32_t angle = 0;  // sign and 3 digits
 };
 
 // One line of a free bending form: its number and up to six segments.
-class BendingFormPart : public Serializable, public ItCollectionImpl<std::vector<BendingFormSegment>> {
+class BendingFormPart : public LaidOut<BendingFormPart>, public ItCollectionImpl<std::vector<BendingFormSegment>> {
 public:
     BendingFormPart()
         : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BendingFormPart&>(self).segments; })
@@ -39,7 +38,6 @@ public:
     }
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int32_t partNumber = 0;              // first on the line, 2 digits; from 1
     std::vector<BendingFormSegment> segments; // behind the count, in file order
@@ -47,14 +45,13 @@ public:
 
 // A free bending form: a code and its lines of segments, behind the bar's
 // second line. The last line is ended by whoever writes the bar.
-class BendingFormFree : public Serializable, public ItCollectionImpl<std::vector<BendingFormPart>> {
+class BendingFormFree : public LaidOut<BendingFormFree>, public ItCollectionImpl<std::vector<BendingFormPart>> {
 public:
     BendingFormFree() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BendingFormFree&>(self).parts; })
     {
     }
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     // Gives the form the code "000" and puts the segments into lines of six,
     // numbered from 1, in place of the lines it had. A count that is a

@@ -1,7 +1,6 @@
 #include "records/reinforcement/braced_girder.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
@@ -12,11 +11,6 @@ BracedGirder::BracedGirder()
           [](auto& self) -> auto& { return static_cast<BracedGirder&>(self).weldingPoints; }),
       ItCollectionImpl<AnchorBarData>([](auto& self) -> auto& { return static_cast<BracedGirder&>(self).anchorBars; })
 {
-}
-
-bool BracedGirder::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool BracedGirder::Read(Archive& ar)
@@ -50,11 +44,6 @@ bool BracedGirder::Read(Archive& ar)
         anchorBars.Read(ar);
     }
     return Healthy(ar);
-}
-
-bool BracedGirderData::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool BracedGirderData::Read(Archive& ar)

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 #include "geometry/point.h"
 #include "records/reinforcement/anchor_bar.h"
 #include "records/reinforcement/welding_point.h"
@@ -15,14 +15,13 @@ namespace ItUnitechnik {
 
 // One lattice girder of a "BRGIRDER" record: two lines of its own, then the
 // welding points and anchor bars its flags call for.
-class BracedGirder : public Serializable,
+class BracedGirder : public LaidOut<BracedGirder>,
                      public ItCollectionImpl<WeldingPointData>,
                      public ItCollectionImpl<AnchorBarData> {
 public:
     BracedGirder();
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int32_t number = 0;          // first line: running number, from 1
     std::wstring code = L"000";       // 3 places, zero-filled
@@ -47,7 +46,7 @@ public:
 };
 
 // The record "BRGIRDER": the braced girders of an element or of a mat.
-class BracedGirderData : public Serializable, public ItCollectionImpl<std::vector<BracedGirder>> {
+class BracedGirderData : public LaidOut<BracedGirderData>, public ItCollectionImpl<std::vector<BracedGirder>> {
 public:
     BracedGirderData()
         : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BracedGirderData&>(self).girders; })
@@ -55,7 +54,6 @@ public:
     }
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     // Numbers the girder as the next of the list (count so far plus 1) and
     // appends a copy straight to the vector, without the change hook. The

@@ -1,16 +1,10 @@
 #include "records/reinforcement/external_iron.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
-
-bool ExternalIron::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
-}
 
 bool ExternalIron::Read(Archive& ar)
 {
@@ -19,11 +13,6 @@ bool ExternalIron::Read(Archive& ar)
     // The padding in front stays: the text comes back 30 places wide.
     ironText = ReadLine(ar);
     return Healthy(ar);
-}
-
-bool ExternalIronData::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool ExternalIronData::Read(Archive& ar)

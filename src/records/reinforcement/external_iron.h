@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 
 #include <cstdint>
 #include <string>
@@ -11,12 +11,11 @@
 namespace ItUnitechnik {
 
 // One external iron: a line of numbers and a text, the same at every version.
-class ExternalIron final : public Serializable {
+class ExternalIron final : public LaidOut<ExternalIron> {
 public:
     ExternalIron() = default;
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int32_t ironNumber = 0; // first on the line, 3 digits; from 1
     std::int32_t ironCode = 1;   // 2 digits
@@ -27,7 +26,7 @@ public:
 
 // The record "EXTIRON_": the external irons of an element or of a
 // reinforcement block.
-class ExternalIronData : public Serializable, public ItCollectionImpl<std::vector<ExternalIron>> {
+class ExternalIronData : public LaidOut<ExternalIronData>, public ItCollectionImpl<std::vector<ExternalIron>> {
 public:
     ExternalIronData()
         : ItCollectionImpl([](auto& self) -> auto& { return static_cast<ExternalIronData&>(self).irons; })
@@ -35,7 +34,6 @@ public:
     }
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     // Numbers the iron as the next of the list (count so far plus 1) and
     // appends a copy straight to the vector, without the change hook. The

@@ -1,7 +1,6 @@
 #include "records/reinforcement/reinforcement.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
@@ -27,11 +26,6 @@ std::int16_t Reinforcement::appendSteelmat(const std::wstring& name, std::int32_
     mat.number = static_cast<std::int16_t>(mats.size() + 1);
     Add(mat);
     return mat.number;
-}
-
-bool Reinforcement::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool Reinforcement::Read(Archive& ar)

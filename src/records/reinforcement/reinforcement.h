@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 #include "records/reinforcement/external_iron.h"
 #include "records/reinforcement/steelmat.h"
 
@@ -15,12 +15,11 @@ namespace ItUnitechnik {
 // The reinforcement block of an element or layer, from "REFORCEM" to
 // "END REFORCEM": its mats and, when a file carried them, external irons of
 // its own.
-class Reinforcement : public Serializable, public ItCollectionImpl<std::vector<Steelmat>> {
+class Reinforcement : public LaidOut<Reinforcement>, public ItCollectionImpl<std::vector<Steelmat>> {
 public:
     Reinforcement() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Reinforcement&>(self).mats; }) {}
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     // Makes a mat of this block's version (its bar and girder lists too),
     // fills it, numbers it as the next of the block and appends a copy. A

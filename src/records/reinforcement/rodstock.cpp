@@ -1,7 +1,6 @@
 #include "records/reinforcement/rodstock.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/list_record.h"
 #include "framework/read_idioms.h"
 
@@ -29,11 +28,6 @@ void Rodstock::applyFlagsCode(std::int32_t flagsCode)
     } else {
         bendingKind = L'2';
     }
-}
-
-bool Rodstock::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool Rodstock::Read(Archive& ar)
@@ -71,11 +65,6 @@ bool Rodstock::Read(Archive& ar)
         weldingPoints.Read(ar);
     }
     return Healthy(ar);
-}
-
-bool RodstockData::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool RodstockData::Read(Archive& ar)

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 #include "geometry/point.h"
 #include "records/reinforcement/bending_form.h"
 #include "records/reinforcement/bending_form_free.h"
@@ -17,14 +17,15 @@ namespace ItUnitechnik {
 
 // One bar entry of a "RODSTOCK" record: two lines of its own, then the
 // bending data, spacers and welding points its flags call for.
-class Rodstock : public Serializable, public ItCollectionImpl<SpacerData>, public ItCollectionImpl<WeldingPointData> {
+class Rodstock : public LaidOut<Rodstock>,
+                 public ItCollectionImpl<SpacerData>,
+                 public ItCollectionImpl<WeldingPointData> {
 public:
     // A bar is always made for a version: it decides the width of
     // `designation`.
     explicit Rodstock(std::int16_t barVersion);
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     // Applies the decimal flags code of a bar: hundreds 1 ask for welding
     // points; the tens digit 1 asks for spacers and two coded forms at once,
@@ -62,12 +63,11 @@ public:
 };
 
 // The record "RODSTOCK": the loose bars of an element or the bars of a mat.
-class RodstockData : public Serializable, public ItCollectionImpl<std::vector<Rodstock>> {
+class RodstockData : public LaidOut<RodstockData>, public ItCollectionImpl<std::vector<Rodstock>> {
 public:
     RodstockData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<RodstockData&>(self).bars; }) {}
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     // Gives the bar this list's version and the next number (count so far
     // plus 1), then appends a copy. The caller finds the number in its own

@@ -1,24 +1,13 @@
 #include "records/reinforcement/spacer.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 
 namespace ItUnitechnik {
-
-bool SpacerPosition::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
-}
 
 bool SpacerPosition::Read(Archive& ar)
 {
     ar >> value1 >> value2 >> value3 >> value4 >> value5 >> value6 >> value7 >> value8 >> value9 >> value10;
     return Healthy(ar);
-}
-
-bool SpacerData::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool SpacerData::Read(Archive& ar)

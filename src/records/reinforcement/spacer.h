@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 
 #include <cstdint>
 #include <vector>
@@ -10,12 +10,11 @@
 namespace ItUnitechnik {
 
 // One spacer position of a bar: ten five-digit numbers on one line.
-class SpacerPosition final : public Serializable {
+class SpacerPosition final : public LaidOut<SpacerPosition> {
 public:
     SpacerPosition() = default;
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int32_t value1 = 0; // first on the line
     std::int32_t value2 = 0;
@@ -30,13 +29,12 @@ public:
 };
 
 // The spacer positions of a bar, behind its lines; no tag.
-class SpacerData : public Serializable, public ItCollectionImpl<std::vector<SpacerPosition>> {
+class SpacerData : public LaidOut<SpacerData>, public ItCollectionImpl<std::vector<SpacerPosition>> {
 public:
     // A list that was never read writes the code 0.
     SpacerData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<SpacerData&>(self).positions; }) {}
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int32_t spacerCode = 0;           // head line, 3 digits, before the count
     std::vector<SpacerPosition> positions; // one line each, behind the head line

@@ -1,7 +1,6 @@
 #include "records/reinforcement/steelmat.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
@@ -10,11 +9,6 @@ Steelmat::Steelmat()
     : ItCollectionImpl<RodstockData>([](auto& self) -> auto& { return static_cast<Steelmat&>(self).rodstocks; }),
       ItCollectionImpl<BracedGirderData>([](auto& self) -> auto& { return static_cast<Steelmat&>(self).girders; })
 {
-}
-
-bool Steelmat::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool Steelmat::Read(Archive& ar)

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 #include "records/reinforcement/braced_girder.h"
 #include "records/reinforcement/rodstock.h"
 
@@ -13,12 +13,13 @@ namespace ItUnitechnik {
 
 // One reinforcement mat, the record from "STEELMAT" to "END STEELMAT" inside a
 // reinforcement block; it owns the bars and girders of the mat.
-class Steelmat : public Serializable, public ItCollectionImpl<RodstockData>, public ItCollectionImpl<BracedGirderData> {
+class Steelmat : public LaidOut<Steelmat>,
+                 public ItCollectionImpl<RodstockData>,
+                 public ItCollectionImpl<BracedGirderData> {
 public:
     Steelmat();
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int16_t version = 502;       // second line; from 600 on two text lines follow the data line
     std::int16_t number = 0;          // data line: running number in the block, from 1

@@ -1,25 +1,14 @@
 #include "records/reinforcement/welding_point.h"
 
 #include "framework/archive.h"
-#include "framework/layout_writer.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
-
-bool WeldingIntersection::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
-}
 
 bool WeldingIntersection::Read(Archive& ar)
 {
     ar >> offset >> weldCode;
     return Healthy(ar);
-}
-
-bool WeldingPoint::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool WeldingPoint::Read(Archive& ar)
@@ -28,11 +17,6 @@ bool WeldingPoint::Read(Archive& ar)
         intersection.Read(ar);
     }
     return Healthy(ar);
-}
-
-bool WeldingPointData::Write(Archive& ar)
-{
-    return WriteLayout(ar, *this);
 }
 
 bool WeldingPointData::Read(Archive& ar)

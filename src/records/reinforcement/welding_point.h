@@ -1,8 +1,8 @@
 #pragma once
 
 #include "framework/collection.h"
+#include "framework/laid_out.h"
 #include "framework/layout.h"
-#include "framework/serializable.h"
 
 #include <array>
 #include <cstdint>
@@ -11,12 +11,11 @@
 namespace ItUnitechnik {
 
 // Where a welding point meets one crossing bar: an offset and a weld code.
-class WeldingIntersection : public Serializable {
+class WeldingIntersection : public LaidOut<WeldingIntersection> {
 public:
     WeldingIntersection() = default;
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int32_t offset = 0;   // 5 digits
     std::int32_t weldCode = 0; // 3 digits
@@ -24,18 +23,17 @@ public:
 
 // One welding point: always eight intersections on one line, also when fewer
 // are in use.
-class WeldingPoint final : public Serializable {
+class WeldingPoint final : public LaidOut<WeldingPoint> {
 public:
     WeldingPoint() = default;
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::array<WeldingIntersection, 8> intersections{}; // the whole line, in order
 };
 
 // The welding points of a bar or braced girder, behind its lines; no tag.
-class WeldingPointData : public Serializable, public ItCollectionImpl<std::vector<WeldingPoint>> {
+class WeldingPointData : public LaidOut<WeldingPointData>, public ItCollectionImpl<std::vector<WeldingPoint>> {
 public:
     // The head values get no value from the file's owner; a list that was
     // never read writes zeros and the letter '0'.
@@ -45,7 +43,6 @@ public:
     }
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
 
     std::int32_t weldValueA = 0;      // head line, 3 digits
     std::int32_t weldValueB = 0;      // 3 digits
