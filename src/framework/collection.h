@@ -4,6 +4,40 @@
 
 namespace ItUnitechnik {
 
+// Where the work of a change is done. In the class flavour `X` derives from
+// the collection of a vector, and each operation forwards to that collection,
+// which fires its own Changed; the view then fires this object's, so a change
+// through the outer view fires the inner hook first, then the outer one.
+template <class X>
+struct CollectionWork {
+    using element_type = typename X::element_type;
+    using iterator = typename X::iterator;
+
+    static iterator Insert(X& x, iterator at, const element_type& e) { return x.Insert(at, e); }
+    static void Add(X& x, const element_type& e) { x.Add(e); }
+    static iterator RemoveRange(X& x, iterator first, iterator last) { return x.RemoveRange(first, last); }
+    static iterator Remove(X& x, iterator at) { return x.Remove(at); }
+    static void Clear(X& x) { x.Clear(); }
+};
+
+// The vector flavour: the work is done on the vector directly, with the
+// element type's copy, assignment and destruction.
+template <class T>
+struct CollectionWork<std::vector<T>> {
+    using element_type = T;
+    using iterator = typename std::vector<T>::iterator;
+
+    static iterator Insert(std::vector<T>& v, iterator at, const T& e) { return v.insert(at, e); }
+    static void Add(std::vector<T>& v, const T& e) { v.push_back(e); }
+    static iterator RemoveRange(std::vector<T>& v, iterator first, iterator last)
+    {
+        return first == last ? first : v.erase(first, last);
+    }
+    static iterator Remove(std::vector<T>& v, iterator at) { return v.erase(at); }
+    // Keeps the capacity.
+    static void Clear(std::vector<T>& v) { v.clear(); }
+};
+
 // The view of a group of child records. The group is a vector (or a class
 // that owns one) inside the same most-derived object. The view does not hold
 // its address: it holds a locator, a plain function that goes from the view
@@ -15,43 +49,40 @@ namespace ItUnitechnik {
 //
 // The locator is usually a generic lambda in the owner's constructor:
 //     ItCollectionImpl([](auto& self) -> auto& { return static_cast<Owner&>(self).member; })
-//
-// The primary template is the class flavour: `X` derives from the collection
-// of a vector, and each operation forwards to that collection and then fires
-// this object's own Changed, so a change through the outer view fires the
-// inner hook first, then the outer one.
 template <class X>
 class ItCollectionImpl {
+    using Work = CollectionWork<X>;
+
 public:
-    using element_type = typename X::element_type;
-    using iterator = typename X::iterator;
+    using element_type = typename Work::element_type;
+    using iterator = typename Work::iterator;
 
     virtual iterator Insert(iterator position, const element_type& element)
     {
-        iterator result = container().Insert(position, element);
+        iterator result = Work::Insert(container(), position, element);
         Changed();
         return result;
     }
     virtual void Add(const element_type& element)
     {
-        container().Add(element);
+        Work::Add(container(), element);
         Changed();
     }
     virtual iterator RemoveRange(iterator first, iterator last)
     {
-        iterator result = container().RemoveRange(first, last);
+        iterator result = Work::RemoveRange(container(), first, last);
         Changed();
         return result;
     }
     virtual iterator Remove(iterator position)
     {
-        iterator result = container().Remove(position);
+        iterator result = Work::Remove(container(), position);
         Changed();
         return result;
     }
     virtual void Clear()
     {
-        container().Clear();
+        Work::Clear(container());
         Changed();
     }
     virtual void Changed() {}
@@ -67,61 +98,6 @@ protected:
     virtual ~ItCollectionImpl() = default;
 
     X& container() { return locate_(*this); }
-
-private:
-    Locator locate_;
-};
-
-// The vector flavour: the operations work on the vector directly, with the
-// element type's copy, assignment and destruction.
-template <class T>
-class ItCollectionImpl<std::vector<T>> {
-public:
-    using element_type = T;
-    using iterator = typename std::vector<T>::iterator;
-
-    virtual iterator Insert(iterator position, const T& element)
-    {
-        iterator result = container().insert(position, element);
-        Changed();
-        return result;
-    }
-    virtual void Add(const T& element)
-    {
-        container().push_back(element);
-        Changed();
-    }
-    virtual iterator RemoveRange(iterator first, iterator last)
-    {
-        iterator result = first == last ? first : container().erase(first, last);
-        Changed();
-        return result;
-    }
-    virtual iterator Remove(iterator position)
-    {
-        iterator result = container().erase(position);
-        Changed();
-        return result;
-    }
-    // Keeps the capacity.
-    virtual void Clear()
-    {
-        container().clear();
-        Changed();
-    }
-    virtual void Changed() {}
-
-protected:
-    using Locator = std::vector<T>& (*)(ItCollectionImpl&);
-
-    explicit ItCollectionImpl(Locator locate) noexcept : locate_(locate) {}
-    ItCollectionImpl(const ItCollectionImpl&) noexcept = default;
-    ItCollectionImpl(ItCollectionImpl&&) noexcept = default;
-    ItCollectionImpl& operator=(const ItCollectionImpl&) noexcept = default;
-    ItCollectionImpl& operator=(ItCollectionImpl&&) noexcept = default;
-    virtual ~ItCollectionImpl() = default;
-
-    std::vector<T>& container() { return locate_(*this); }
 
 private:
     Locator locate_;
