@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 namespace ItUnitechnik {
@@ -102,5 +103,12 @@ protected:
 private:
     Locator locate_;
 };
+
+// The running number of the next entry of a list: the count so far plus 1.
+template <class T>
+std::int32_t NextNumber(const std::vector<T>& entries)
+{
+    return static_cast<std::int32_t>(entries.size()) + 1;
+}
 
 } // namespace ItUnitechnik

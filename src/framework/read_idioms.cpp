@@ -62,6 +62,13 @@ bool Matches(const std::wstring& text, const wchar_t* tag)
     return text.size() == std::wcslen(tag) && text.compare(tag) == 0;
 }
 
+bool ReadFlag(std::wistream& in)
+{
+    wchar_t flag = L'0';
+    in >> flag;
+    return flag != L'0';
+}
+
 void Trim(std::wstring& text)
 {
     static const wchar_t set[] = L" \t\n";

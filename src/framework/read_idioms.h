@@ -27,6 +27,10 @@ void ClearSkipWs(std::wistream& in);
 // A tag matches when the length is equal and every character is equal.
 bool Matches(const std::wstring& text, const wchar_t* tag);
 
+// A flag of one character, white space skipped before it: set unless it is
+// '0'. A stream that has failed gives a flag that is not set.
+bool ReadFlag(std::wistream& in);
+
 // Removes blanks, tabs and line feeds from both ends, in place. A text whose
 // last significant character stands at index 0 becomes empty: `7` and `7  `
 // trim to nothing. The order record relies on exactly that.
@@ -76,6 +80,20 @@ bool ReadOrRewind(Archive& ar, T& record)
     }
     Rewind(ar, start);
     return false;
+}
+
+// The records nested behind a record's own lines, each reading itself in
+// turn; the first after which the stream is not healthy ends the read.
+template <class T>
+bool ReadsWell(Archive& ar, T& record)
+{
+    record.Read(ar);
+    return Healthy(ar);
+}
+template <class... T>
+bool ReadInTurn(Archive& ar, T&... records)
+{
+    return (ReadsWell(ar, records) && ...);
 }
 
 // Records of one kind, one behind the other, up to the first that does not

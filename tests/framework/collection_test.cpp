@@ -153,5 +153,11 @@ TEST(ClassCollection, ACopyWorksOnItsOwnMember)
     EXPECT_EQ(b.inner.items.size(), 2u);
 }
 
+TEST(NextNumber, IsTheCountSoFarPlusOne)
+{
+    EXPECT_EQ(NextNumber(std::vector<int>{}), 1);
+    EXPECT_EQ(NextNumber(std::vector<int>{7, 7, 7}), 4);
+}
+
 } // namespace
 } // namespace ItUnitechnik

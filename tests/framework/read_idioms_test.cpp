@@ -237,5 +237,31 @@ TEST(ReadWhileThere, NoneThereIsNoFailure)
     EXPECT_EQ(ReadToken(s.archive), L"END");
 }
 
+TEST(ReadFlag, EveryCharacterButZeroSetsIt)
+{
+    StringArchive s(L"10 2X");
+    EXPECT_TRUE(ReadFlag(s.archive));
+    EXPECT_FALSE(ReadFlag(s.archive));
+    EXPECT_TRUE(ReadFlag(s.archive)); // white space skipped before it
+    EXPECT_TRUE(ReadFlag(s.archive));
+    EXPECT_TRUE(Healthy(s.archive));
+    EXPECT_FALSE(ReadFlag(s.archive)); // nothing left: the stream fails
+    EXPECT_TRUE(s.archive.fail());
+}
+
+TEST(ReadInTurn, EachReadsUntilTheFirstThatFails)
+{
+    StringArchive s(L"1\n2\nx\n4\n");
+    NumberLine first;
+    NumberLine second;
+    EXPECT_TRUE(ReadInTurn(s.archive, first, second));
+    EXPECT_EQ(first.value, 1);
+    EXPECT_EQ(second.value, 2);
+    NumberLine third;
+    NumberLine fourth;
+    EXPECT_FALSE(ReadInTurn(s.archive, third, fourth));
+    EXPECT_EQ(fourth.value, 0); // not reached
+}
+
 } // namespace
 } // namespace ItUnitechnik

@@ -57,7 +57,7 @@ void ElementPart::Add(const Contour& contour)
 void ElementPart::appendContour(Contour contour)
 {
     contour.version = contourData.version;
-    contour.contourNumber = static_cast<std::int32_t>(contourData.contours.size()) + 1;
+    contour.contourNumber = NextNumber(contourData.contours);
     ExpectContour(contour);
     contourData.contours.push_back(std::move(contour));
     updateExtents();
@@ -72,7 +72,7 @@ void ElementPart::appendRodstock(Rodstock rodstock)
 void ElementPart::appendCutout(Cutout cutout)
 {
     cutout.version = cutoutData.version;
-    cutout.cutoutNumber = static_cast<std::int32_t>(cutoutData.cutouts.size()) + 1;
+    cutout.cutoutNumber = NextNumber(cutoutData.cutouts);
     cutoutData.cutouts.push_back(std::move(cutout));
     updateExtents();
 }

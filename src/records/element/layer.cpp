@@ -32,18 +32,10 @@ bool Layer::Read(Archive& ar)
     }
     ReadElements(
         ar, lotCount, [] { return Lot(); }, lots);
-    mountingPartData.Read(ar);
-    if (!Healthy(ar)) {
+    if (!ReadInTurn(ar, mountingPartData, reinforcement)) {
         return false;
     }
-    reinforcement.Read(ar);
-    if (!Healthy(ar)) {
-        return false;
-    }
-    if (!ExpectLine(ar, L"END LAYER___")) {
-        return false;
-    }
-    return true;
+    return ExpectLine(ar, L"END LAYER___");
 }
 
 } // namespace ItUnitechnik

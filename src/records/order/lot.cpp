@@ -44,19 +44,11 @@ bool Lot::Read(Archive& ar)
     if (!ExpectToken(ar, L"END")) {
         return false;
     }
-    contourData.Read(ar);
-    if (!Healthy(ar)) {
-        return false;
-    }
-    cutoutData.Read(ar);
-    if (!Healthy(ar)) {
+    if (!ReadInTurn(ar, contourData, cutoutData)) {
         return false;
     }
     SkipLine(ar);
-    if (!ExpectLine(ar, L"END LOT_____")) {
-        return false;
-    }
-    return true;
+    return ExpectLine(ar, L"END LOT_____");
 }
 
 } // namespace ItUnitechnik

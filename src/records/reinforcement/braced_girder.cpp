@@ -30,12 +30,9 @@ bool BracedGirder::Read(Archive& ar)
     thirdCode = ReadToken(ar);
     ar >> lastNumber;
 
-    wchar_t flag = L'0';
-    ar >> flag;
-    hasWeldingPoints = flag != L'0';
-    ar >> flag; // the constant between the two flags
-    ar >> flag;
-    hasAnchorBars = flag != L'0';
+    hasWeldingPoints = ReadFlag(ar);
+    ReadFlag(ar); // the constant between the two flags
+    hasAnchorBars = ReadFlag(ar);
 
     if (hasWeldingPoints) {
         weldingPoints.Read(ar);
@@ -54,7 +51,7 @@ bool BracedGirderData::Read(Archive& ar)
 
 void BracedGirderData::appendGirder(BracedGirder& girder)
 {
-    girder.number = static_cast<std::int32_t>(girders.size()) + 1;
+    girder.number = NextNumber(girders);
     girders.push_back(girder);
 }
 

@@ -23,7 +23,7 @@ bool ExternalIronData::Read(Archive& ar)
 
 void ExternalIronData::appendIron(ExternalIron& iron)
 {
-    iron.ironNumber = static_cast<std::int32_t>(irons.size()) + 1;
+    iron.ironNumber = NextNumber(irons);
     irons.push_back(iron);
 }
 

@@ -44,11 +44,8 @@ bool Rodstock::Read(Archive& ar)
     GetText(ar, 10, extraDesignation);
     ar >> mountFlag >> auxFirst >> auxSecond >> auxThird >> auxFourth >> auxFifth >> auxSixth;
 
-    wchar_t flag = L'0';
-    ar >> flag;
-    hasWeldingPoints = flag != L'0';
-    ar >> flag;
-    hasSpacers = flag != L'0';
+    hasWeldingPoints = ReadFlag(ar);
+    hasSpacers = ReadFlag(ar);
     ar >> bendingKind;
 
     if (bendingKind == L'1') {
@@ -76,7 +73,7 @@ bool RodstockData::Read(Archive& ar)
 void RodstockData::appendRodstock(Rodstock& bar)
 {
     bar.version = version;
-    bar.number = static_cast<std::int32_t>(bars.size()) + 1;
+    bar.number = NextNumber(bars);
     Add(bar);
 }
 

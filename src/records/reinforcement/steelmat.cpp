@@ -30,12 +30,7 @@ bool Steelmat::Read(Archive& ar)
     if (!ExpectToken(ar, L"END")) {
         return false;
     }
-    rodstocks.Read(ar);
-    if (!Healthy(ar)) {
-        return false;
-    }
-    girders.Read(ar);
-    if (!Healthy(ar)) {
+    if (!ReadInTurn(ar, rodstocks, girders)) {
         return false;
     }
     SkipLine(ar);
