@@ -38,4 +38,31 @@ private:
 // The one document of the process; the exports work on it.
 extern Document theDocument;
 
+// An export's work on the element being built. With no element the export
+// does nothing and gives `none`. Nothing thrown reaches the host: the export
+// then gives `failed`.
+template <class Result, class Work>
+Result OnCurrentElement(Result none, Result failed, Work&& work) noexcept
+{
+    try {
+        ElementPart* element = theDocument.CurrentElement();
+        return element == nullptr ? none : work(*element);
+    } catch (...) {
+        return failed;
+    }
+}
+
+// The same for an export that gives nothing.
+template <class Work>
+void OnCurrentElement(Work&& work) noexcept
+{
+    try {
+        if (ElementPart* element = theDocument.CurrentElement()) {
+            work(*element);
+        }
+    } catch (...) {
+        // Nothing to report: the call ends here.
+    }
+}
+
 } // namespace ItUnitechnik

@@ -17,6 +17,7 @@ using ItUnitechnik::FromHost;
 using ItUnitechnik::GeoData;
 using ItUnitechnik::LineSegment;
 using ItUnitechnik::MountingPart;
+using ItUnitechnik::OnCurrentElement;
 using ItUnitechnik::Point2d;
 using ItUnitechnik::theDocument;
 
@@ -110,52 +111,41 @@ int32_t AddGirders(ElementPart& element, const it_char16* setName, int32_t value
 extern "C" {
 
 // Nothing thrown inside the library reaches the host: each export ends in a
-// handler that gives the result the header names for that case.
+// handler that gives the result the header names for that case, its own or
+// that of OnCurrentElement.
 
 ITUNITECHNIK_API void addContour(int32_t pointCount, const int32_t* points)
-try {
-    ElementPart* element = theDocument.CurrentElement();
-    if (element == nullptr) {
-        return;
-    }
-    Contour contour(element->version);
-    AddChain(contour, pointCount, points);
-    element->appendContour(std::move(contour));
-} catch (...) {
-    // Nothing to report: the call ends here.
+{
+    OnCurrentElement([&](ElementPart& element) {
+        Contour contour(element.version);
+        AddChain(contour, pointCount, points);
+        element.appendContour(std::move(contour));
+    });
 }
 
 ITUNITECHNIK_API void addCutout(const ItCutoutBlock* block, const int32_t* points)
-try {
-    ElementPart* element = theDocument.CurrentElement();
-    if (element == nullptr) {
-        return;
-    }
-    Cutout cutout(element->version);
-    cutout.cutoutValue = block->cutoutValue;
-    cutout.cutoutName = FromHost(block->cutoutName);
-    AddChain(cutout, block->pointCount, points);
-    element->appendCutout(std::move(cutout));
-} catch (...) {
-    // Nothing to report: the call ends here.
+{
+    OnCurrentElement([&](ElementPart& element) {
+        Cutout cutout(element.version);
+        cutout.cutoutValue = block->cutoutValue;
+        cutout.cutoutName = FromHost(block->cutoutName);
+        AddChain(cutout, block->pointCount, points);
+        element.appendCutout(std::move(cutout));
+    });
 }
 
 ITUNITECHNIK_API int32_t addSet(int32_t setKind, const it_char16* setName, int32_t valueCount, const int32_t* values)
-try {
-    ElementPart* element = theDocument.CurrentElement();
-    if (element == nullptr) {
-        return 0;
-    }
-    switch (setKind) {
-    case 3:
-        return AddMountingPart(*element, setName, valueCount, values);
-    case 5:
-        return AddGirders(*element, setName, valueCount, values);
-    default:
-        return 0;
-    }
-} catch (...) {
-    return 0;
+{
+    return OnCurrentElement<int32_t>(0, 0, [&](ElementPart& element) -> int32_t {
+        switch (setKind) {
+        case 3:
+            return AddMountingPart(element, setName, valueCount, values);
+        case 5:
+            return AddGirders(element, setName, valueCount, values);
+        default:
+            return 0;
+        }
+    });
 }
 
 } // extern "C"

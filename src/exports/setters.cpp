@@ -9,13 +9,15 @@ using ItUnitechnik::ConcreteLayer;
 using ItUnitechnik::Date;
 using ItUnitechnik::ElementPart;
 using ItUnitechnik::FromHost;
+using ItUnitechnik::OnCurrentElement;
 using ItUnitechnik::Order;
 using ItUnitechnik::theDocument;
 
 extern "C" {
 
 // Nothing thrown inside the library reaches the host: each export ends in a
-// handler that gives the result the header names for that case.
+// handler that gives the result the header names for that case, its own or
+// that of OnCurrentElement.
 
 ITUNITECHNIK_API void setProjectData(const it_char16* const* texts)
 try {
@@ -50,66 +52,48 @@ try {
 
 ITUNITECHNIK_API void setSlabInfoFields(const it_char16* slabInfo1, const it_char16* slabInfo2,
                                         const it_char16* slabInfo3, const it_char16* slabInfo4)
-try {
+{
     // Guarded like every other element export, so a call before startOrder
     // does nothing.
-    ElementPart* element = theDocument.CurrentElement();
-    if (element == nullptr) {
-        return;
-    }
-    element->slabInfo1 = FromHost(slabInfo1);
-    element->slabInfo2 = FromHost(slabInfo2);
-    element->slabInfo3 = FromHost(slabInfo3);
-    element->slabInfo4 = FromHost(slabInfo4);
-} catch (...) {
-    // Nothing to report: the call ends here.
+    OnCurrentElement([&](ElementPart& element) {
+        element.slabInfo1 = FromHost(slabInfo1);
+        element.slabInfo2 = FromHost(slabInfo2);
+        element.slabInfo3 = FromHost(slabInfo3);
+        element.slabInfo4 = FromHost(slabInfo4);
+    });
 }
 
 ITUNITECHNIK_API void setThicknesses(int32_t thickness, int32_t secondThickness)
-try {
-    ElementPart* element = theDocument.CurrentElement();
-    if (element == nullptr) {
-        return;
-    }
-    element->thickness = thickness;
-    element->secondThickness = secondThickness;
-} catch (...) {
-    // Nothing to report: the call ends here.
+{
+    OnCurrentElement([&](ElementPart& element) {
+        element.thickness = thickness;
+        element.secondThickness = secondThickness;
+    });
 }
 
 ITUNITECHNIK_API void setDoubleWallGap(int32_t doubleWallGap)
-try {
-    ElementPart* element = theDocument.CurrentElement();
-    if (element == nullptr) {
-        return;
-    }
-    element->doubleWallGap = doubleWallGap;
-} catch (...) {
-    // Nothing to report: the call ends here.
+{
+    OnCurrentElement([&](ElementPart& element) { element.doubleWallGap = doubleWallGap; });
 }
 
 ITUNITECHNIK_API void addLayer(uint16_t layerKind, double thicknessMetres, double firstFactor, double secondFactor,
                                const it_char16* layerName)
-try {
-    ElementPart* element = theDocument.CurrentElement();
-    if (element == nullptr) {
-        return;
-    }
-    ConcreteLayer layer(element->version);
-    layer.layerNumber = static_cast<int32_t>(element->concreteLayers.size()) + 1;
-    layer.layerKind = static_cast<int16_t>(layerKind);
-    layer.layerThickness = ItUnitechnik::TruncateToInt32(std::round(thicknessMetres * 1000.0));
-    layer.layerName = FromHost(layerName);
-    layer.firstFactor = firstFactor;
-    layer.secondFactor = secondFactor;
-    element->Add(layer);
-    element->layerProductSum += firstFactor * secondFactor;
-    // The running total overwrites the second thickness too.
-    const int32_t total = ItUnitechnik::WrappingAdd(element->thickness, layer.layerThickness);
-    element->thickness = total;
-    element->secondThickness = total;
-} catch (...) {
-    // Nothing to report: the call ends here.
+{
+    OnCurrentElement([&](ElementPart& element) {
+        ConcreteLayer layer(element.version);
+        layer.layerNumber = static_cast<int32_t>(element.concreteLayers.size()) + 1;
+        layer.layerKind = static_cast<int16_t>(layerKind);
+        layer.layerThickness = ItUnitechnik::TruncateToInt32(std::round(thicknessMetres * 1000.0));
+        layer.layerName = FromHost(layerName);
+        layer.firstFactor = firstFactor;
+        layer.secondFactor = secondFactor;
+        element.Add(layer);
+        element.layerProductSum += firstFactor * secondFactor;
+        // The running total overwrites the second thickness too.
+        const int32_t total = ItUnitechnik::WrappingAdd(element.thickness, layer.layerThickness);
+        element.thickness = total;
+        element.secondThickness = total;
+    });
 }
 
 } // extern "C"
