@@ -14,9 +14,6 @@ public:
     bool Write(Archive& ar) override { return WriteLayout(ar, static_cast<Record&>(*this)); }
 
 protected:
-    LaidOut() = default;
-    LaidOut(const LaidOut&) = default;
-    LaidOut& operator=(const LaidOut&) = default;
     ~LaidOut() = default;
 };
 
