@@ -12,7 +12,7 @@ namespace ItUnitechnik {
 // no record: nothing reads a file back into it.
 class Document : public ItCollectionImpl<std::vector<Order>> {
 public:
-    Document() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Document&>(self).orders; }) {}
+    Document() : ItCollectionImpl(Locate<&Document::orders>) {}
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
 

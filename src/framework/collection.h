@@ -39,6 +39,22 @@ struct CollectionWork<std::vector<T>> {
     static void Clear(std::vector<T>& v) { v.clear(); }
 };
 
+// The class a pointer to member belongs to.
+template <class Member>
+struct MemberOwner;
+template <class Owner, class T>
+struct MemberOwner<T Owner::*> {
+    using type = Owner;
+};
+
+// A locator: from the view to the owner's member along the path of members.
+// It converts to the plain function a view holds.
+template <auto First, auto... Rest>
+inline constexpr auto Locate = [](auto& view) -> auto&
+{
+    return ((static_cast<typename MemberOwner<decltype(First)>::type&>(view).*First).*....*Rest);
+};
+
 // The view of a group of child records. The group is a vector (or a class
 // that owns one) inside the same most-derived object. The view does not hold
 // its address: it holds a locator, a plain function that goes from the view
@@ -48,8 +64,10 @@ struct CollectionWork<std::vector<T>> {
 // assignments to the compiler, and each of them keeps working on its own
 // members. The view holds no other state.
 //
-// The locator is usually a generic lambda in the owner's constructor:
-//     ItCollectionImpl([](auto& self) -> auto& { return static_cast<Owner&>(self).member; })
+// The owner's constructor hands in the locator of its member, or of a member
+// of one of its members:
+//     ItCollectionImpl(Locate<&Owner::member>)
+//     ItCollectionImpl<std::vector<Cutout>>(Locate<&Owner::cutoutData, &CutoutData::cutouts>)
 template <class X>
 class ItCollectionImpl {
     using Work = CollectionWork<X>;

@@ -14,7 +14,7 @@ namespace {
 // A list record in miniature: counts its hook.
 class Items : public ItCollectionImpl<std::vector<int>> {
 public:
-    Items() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Items&>(self).items; }) {}
+    Items() : ItCollectionImpl(Locate<&Items::items>) {}
 
     void Changed() override { log += "inner "; }
 
@@ -25,7 +25,7 @@ public:
 // A record that holds a list record and views it through the class flavour.
 class Holder : public ItCollectionImpl<Items> {
 public:
-    Holder() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Holder&>(self).inner; }) {}
+    Holder() : ItCollectionImpl(Locate<&Holder::inner>) {}
 
     void Changed() override { inner.log += "outer "; }
 

@@ -5,21 +5,14 @@
 namespace ItUnitechnik {
 
 ElementPart::ElementPart()
-    : ItCollectionImpl<std::vector<ConcreteLayer>>(
-          [](auto& self) -> auto& { return static_cast<ElementPart&>(self).concreteLayers; }),
-      ItCollectionImpl<std::vector<Contour>>(
-          [](auto& self) -> auto& { return static_cast<ElementPart&>(self).contourData.contours; }),
-      ItCollectionImpl<std::vector<Cutout>>(
-          [](auto& self) -> auto& { return static_cast<ElementPart&>(self).cutoutData.cutouts; }),
-      ItCollectionImpl<std::vector<MountingPart>>(
-          [](auto& self) -> auto& { return static_cast<ElementPart&>(self).mountingPartData.parts; }),
-      ItCollectionImpl<std::vector<Rodstock>>(
-          [](auto& self) -> auto& { return static_cast<ElementPart&>(self).rodstockData.bars; }),
-      ItCollectionImpl<std::vector<BracedGirder>>(
-          [](auto& self) -> auto& { return static_cast<ElementPart&>(self).bracedGirderData.girders; }),
-      ItCollectionImpl<std::vector<ExternalIron>>(
-          [](auto& self) -> auto& { return static_cast<ElementPart&>(self).externalIronData.irons; }),
-      ItCollectionImpl<std::vector<Layer>>([](auto& self) -> auto& { return static_cast<ElementPart&>(self).layers; })
+    : ItCollectionImpl<std::vector<ConcreteLayer>>(Locate<&ElementPart::concreteLayers>),
+      ItCollectionImpl<std::vector<Contour>>(Locate<&ElementPart::contourData, &ContourData::contours>),
+      ItCollectionImpl<std::vector<Cutout>>(Locate<&ElementPart::cutoutData, &CutoutData::cutouts>),
+      ItCollectionImpl<std::vector<MountingPart>>(Locate<&ElementPart::mountingPartData, &MountingPartData::parts>),
+      ItCollectionImpl<std::vector<Rodstock>>(Locate<&ElementPart::rodstockData, &RodstockData::bars>),
+      ItCollectionImpl<std::vector<BracedGirder>>(Locate<&ElementPart::bracedGirderData, &BracedGirderData::girders>),
+      ItCollectionImpl<std::vector<ExternalIron>>(Locate<&ElementPart::externalIronData, &ExternalIronData::irons>),
+      ItCollectionImpl<std::vector<Layer>>(Locate<&ElementPart::layers>)
 {
     codeA1 = L"0";
     codeA2 = L"00";

@@ -7,9 +7,8 @@
 namespace ItUnitechnik {
 
 Layer::Layer()
-    : ItCollectionImpl<std::vector<Lot>>([](auto& self) -> auto& { return static_cast<Layer&>(self).lots; }),
-      ItCollectionImpl<std::vector<MountingPart>>(
-          [](auto& self) -> auto& { return static_cast<Layer&>(self).mountingPartData.parts; })
+    : ItCollectionImpl<std::vector<Lot>>(Locate<&Layer::lots>),
+      ItCollectionImpl<std::vector<MountingPart>>(Locate<&Layer::mountingPartData, &MountingPartData::parts>)
 {
 }
 

@@ -7,10 +7,8 @@
 namespace ItUnitechnik {
 
 Lot::Lot()
-    : ItCollectionImpl<std::vector<Contour>>(
-          [](auto& self) -> auto& { return static_cast<Lot&>(self).contourData.contours; }),
-      ItCollectionImpl<std::vector<Cutout>>(
-          [](auto& self) -> auto& { return static_cast<Lot&>(self).cutoutData.cutouts; })
+    : ItCollectionImpl<std::vector<Contour>>(Locate<&Lot::contourData, &ContourData::contours>),
+      ItCollectionImpl<std::vector<Cutout>>(Locate<&Lot::cutoutData, &CutoutData::cutouts>)
 {
 }
 

@@ -7,9 +7,7 @@
 
 namespace ItUnitechnik {
 
-Order::Order()
-    : ItCollectionImpl<std::vector<ElementPart>>(
-          [](auto& self) -> auto& { return static_cast<Order&>(self).elementParts; })
+Order::Order() : ItCollectionImpl<std::vector<ElementPart>>(Locate<&Order::elementParts>)
 {
     date.version = version;
 }

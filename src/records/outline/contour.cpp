@@ -6,10 +6,7 @@
 
 namespace ItUnitechnik {
 
-Contour::Contour(std::int32_t formatVersion)
-    : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Contour&>(self).geoData; }), version(formatVersion)
-{
-}
+Contour::Contour(std::int32_t formatVersion) : ItCollectionImpl(Locate<&Contour::geoData>), version(formatVersion) {}
 
 bool Contour::Read(Archive& ar)
 {
@@ -26,10 +23,7 @@ bool Contour::Read(Archive& ar)
     return Healthy(ar);
 }
 
-ContourData::ContourData()
-    : ItCollectionImpl([](auto& self) -> auto& { return static_cast<ContourData&>(self).contours; })
-{
-}
+ContourData::ContourData() : ItCollectionImpl(Locate<&ContourData::contours>) {}
 
 bool ContourData::Read(Archive& ar)
 {

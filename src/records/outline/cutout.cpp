@@ -6,10 +6,7 @@
 
 namespace ItUnitechnik {
 
-Cutout::Cutout(std::int32_t formatVersion)
-    : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Cutout&>(self).geoData; }), version(formatVersion)
-{
-}
+Cutout::Cutout(std::int32_t formatVersion) : ItCollectionImpl(Locate<&Cutout::geoData>), version(formatVersion) {}
 
 bool Cutout::Read(Archive& ar)
 {
@@ -25,9 +22,7 @@ bool Cutout::Read(Archive& ar)
     return Healthy(ar);
 }
 
-CutoutData::CutoutData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<CutoutData&>(self).cutouts; })
-{
-}
+CutoutData::CutoutData() : ItCollectionImpl(Locate<&CutoutData::cutouts>) {}
 
 bool CutoutData::Read(Archive& ar)
 {

@@ -7,8 +7,7 @@
 namespace ItUnitechnik {
 
 MountingPart::MountingPart(std::int16_t formatVersion)
-    : ItCollectionImpl([](auto& self) -> auto& { return static_cast<MountingPart&>(self).geoData; }),
-      version(formatVersion)
+    : ItCollectionImpl(Locate<&MountingPart::geoData>), version(formatVersion)
 {
 }
 
@@ -43,10 +42,7 @@ bool MountingPart::Read(Archive& ar)
     return Healthy(ar);
 }
 
-MountingPartData::MountingPartData()
-    : ItCollectionImpl([](auto& self) -> auto& { return static_cast<MountingPartData&>(self).parts; })
-{
-}
+MountingPartData::MountingPartData() : ItCollectionImpl(Locate<&MountingPartData::parts>) {}
 
 bool MountingPartData::Read(Archive& ar)
 {

@@ -26,7 +26,7 @@ public:
 // The anchor bars of a braced girder, behind the girder's lines; no tag.
 class AnchorBarData : public LaidOut<AnchorBarData>, public ItCollectionImpl<std::vector<AnchorBar>> {
 public:
-    AnchorBarData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<AnchorBarData&>(self).bars; }) {}
+    AnchorBarData() : ItCollectionImpl(Locate<&AnchorBarData::bars>) {}
 
     bool Read(Archive& ar) override;
 

@@ -27,13 +27,9 @@ public:
 // One line of a free bending form: its number and up to six segments.
 class BendingFormPart : public LaidOut<BendingFormPart>, public ItCollectionImpl<std::vector<BendingFormSegment>> {
 public:
-    BendingFormPart()
-        : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BendingFormPart&>(self).segments; })
-    {
-    }
+    BendingFormPart() : ItCollectionImpl(Locate<&BendingFormPart::segments>) {}
     explicit BendingFormPart(std::int32_t number)
-        : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BendingFormPart&>(self).segments; }),
-          partNumber(number)
+        : ItCollectionImpl(Locate<&BendingFormPart::segments>), partNumber(number)
     {
     }
 
@@ -47,9 +43,7 @@ public:
 // second line. The last line is ended by whoever writes the bar.
 class BendingFormFree : public LaidOut<BendingFormFree>, public ItCollectionImpl<std::vector<BendingFormPart>> {
 public:
-    BendingFormFree() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BendingFormFree&>(self).parts; })
-    {
-    }
+    BendingFormFree() : ItCollectionImpl(Locate<&BendingFormFree::parts>) {}
 
     bool Read(Archive& ar) override;
 

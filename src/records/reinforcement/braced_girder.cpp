@@ -7,9 +7,8 @@
 namespace ItUnitechnik {
 
 BracedGirder::BracedGirder()
-    : ItCollectionImpl<WeldingPointData>(
-          [](auto& self) -> auto& { return static_cast<BracedGirder&>(self).weldingPoints; }),
-      ItCollectionImpl<AnchorBarData>([](auto& self) -> auto& { return static_cast<BracedGirder&>(self).anchorBars; })
+    : ItCollectionImpl<WeldingPointData>(Locate<&BracedGirder::weldingPoints>), ItCollectionImpl<AnchorBarData>(
+                                                                                    Locate<&BracedGirder::anchorBars>)
 {
 }
 

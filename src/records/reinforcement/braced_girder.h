@@ -48,10 +48,7 @@ public:
 // The record "BRGIRDER": the braced girders of an element or of a mat.
 class BracedGirderData : public LaidOut<BracedGirderData>, public ItCollectionImpl<std::vector<BracedGirder>> {
 public:
-    BracedGirderData()
-        : ItCollectionImpl([](auto& self) -> auto& { return static_cast<BracedGirderData&>(self).girders; })
-    {
-    }
+    BracedGirderData() : ItCollectionImpl(Locate<&BracedGirderData::girders>) {}
 
     bool Read(Archive& ar) override;
 

@@ -28,10 +28,7 @@ public:
 // reinforcement block.
 class ExternalIronData : public LaidOut<ExternalIronData>, public ItCollectionImpl<std::vector<ExternalIron>> {
 public:
-    ExternalIronData()
-        : ItCollectionImpl([](auto& self) -> auto& { return static_cast<ExternalIronData&>(self).irons; })
-    {
-    }
+    ExternalIronData() : ItCollectionImpl(Locate<&ExternalIronData::irons>) {}
 
     bool Read(Archive& ar) override;
 

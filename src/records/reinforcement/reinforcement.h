@@ -17,7 +17,7 @@ namespace ItUnitechnik {
 // its own.
 class Reinforcement : public LaidOut<Reinforcement>, public ItCollectionImpl<std::vector<Steelmat>> {
 public:
-    Reinforcement() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<Reinforcement&>(self).mats; }) {}
+    Reinforcement() : ItCollectionImpl(Locate<&Reinforcement::mats>) {}
 
     bool Read(Archive& ar) override;
 

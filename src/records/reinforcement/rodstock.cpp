@@ -7,9 +7,8 @@
 namespace ItUnitechnik {
 
 Rodstock::Rodstock(std::int16_t barVersion)
-    : ItCollectionImpl<SpacerData>([](auto& self) -> auto& { return static_cast<Rodstock&>(self).spacers; }),
-      ItCollectionImpl<WeldingPointData>(
-          [](auto& self) -> auto& { return static_cast<Rodstock&>(self).weldingPoints; }),
+    : ItCollectionImpl<SpacerData>(Locate<&Rodstock::spacers>), ItCollectionImpl<WeldingPointData>(
+                                                                    Locate<&Rodstock::weldingPoints>),
       version(barVersion)
 {
 }

@@ -65,7 +65,7 @@ public:
 // The record "RODSTOCK": the loose bars of an element or the bars of a mat.
 class RodstockData : public LaidOut<RodstockData>, public ItCollectionImpl<std::vector<Rodstock>> {
 public:
-    RodstockData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<RodstockData&>(self).bars; }) {}
+    RodstockData() : ItCollectionImpl(Locate<&RodstockData::bars>) {}
 
     bool Read(Archive& ar) override;
 

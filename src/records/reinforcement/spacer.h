@@ -32,7 +32,7 @@ public:
 class SpacerData : public LaidOut<SpacerData>, public ItCollectionImpl<std::vector<SpacerPosition>> {
 public:
     // A list that was never read writes the code 0.
-    SpacerData() : ItCollectionImpl([](auto& self) -> auto& { return static_cast<SpacerData&>(self).positions; }) {}
+    SpacerData() : ItCollectionImpl(Locate<&SpacerData::positions>) {}
 
     bool Read(Archive& ar) override;
 

@@ -6,8 +6,8 @@
 namespace ItUnitechnik {
 
 Steelmat::Steelmat()
-    : ItCollectionImpl<RodstockData>([](auto& self) -> auto& { return static_cast<Steelmat&>(self).rodstocks; }),
-      ItCollectionImpl<BracedGirderData>([](auto& self) -> auto& { return static_cast<Steelmat&>(self).girders; })
+    : ItCollectionImpl<RodstockData>(Locate<&Steelmat::rodstocks>), ItCollectionImpl<BracedGirderData>(
+                                                                        Locate<&Steelmat::girders>)
 {
 }
 

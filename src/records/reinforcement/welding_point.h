@@ -37,10 +37,7 @@ class WeldingPointData : public LaidOut<WeldingPointData>, public ItCollectionIm
 public:
     // The head values get no value from the file's owner; a list that was
     // never read writes zeros and the letter '0'.
-    WeldingPointData()
-        : ItCollectionImpl([](auto& self) -> auto& { return static_cast<WeldingPointData&>(self).points; })
-    {
-    }
+    WeldingPointData() : ItCollectionImpl(Locate<&WeldingPointData::points>) {}
 
     bool Read(Archive& ar) override;
 
