@@ -5,25 +5,21 @@
 namespace ItUnitechnik {
 
 // The full circle, kind 'K'.
-class Circle : public Curve {
+class Circle : public CurveOf<Circle> {
 public:
     explicit Circle(std::int32_t formatVersion);
     Circle(std::int32_t formatVersion, const Point2d& centrePoint, std::int32_t radiusValue);
-    Circle(const Circle&) = default;
-    Circle& operator=(const Circle&) = default;
-    ~Circle() override;
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
-
-    std::unique_ptr<Curve> clone() const override;
-    void translate(const Vector2d& delta) override;
-    // The centre turns; the radius stays.
-    void rotate(const Point2d& centre, const double& angle) override;
-    void mirrorY(const std::int32_t& c) override;
-    void mirrorX(const std::int32_t& c) override;
     // The box of the whole circle.
     BoundingBox boundingBox() const override;
+
+    // The centre turns; the radius stays.
+    template <class F>
+    void eachPoint(F f)
+    {
+        f(centre);
+    }
 
     Point2d centre;          // first two fields
     std::int32_t radius = 0; // third field
@@ -34,5 +30,22 @@ protected:
     // number is not an error: it is dropped as one token.
     bool readFlags(Archive& ar);
 };
+
+// The centre and the radius, with which an arc's line begins too.
+template <class IO>
+void CentreAndRadiusLayout(IO& io, Circle& circle)
+{
+    CoordinatesLayout(io, circle.version, circle.centre);
+    io.Blank();
+    io.UInt(5, circle.radius, "radius");
+    io.Blank();
+}
+
+template <class IO>
+void Layout(IO& io, Circle& circle)
+{
+    CentreAndRadiusLayout(io, circle);
+    io.Hex(4, circle.flags, "flags");
+}
 
 } // namespace ItUnitechnik

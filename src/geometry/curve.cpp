@@ -1,7 +1,7 @@
 #include "geometry/curve.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
+#include "framework/layout_writer.h"
 
 namespace ItUnitechnik {
 
@@ -18,15 +18,23 @@ bool Curve::copyVersion(const Curve* other)
     return true;
 }
 
-void Curve::writeCoordinates(Archive& ar, const Point2d& point) const
+void Curve::readHexadecimal(Archive& ar, std::int32_t& value)
+{
+    ar.setf(std::ios_base::hex, std::ios_base::basefield);
+    ar >> value;
+    ar.setf(std::ios_base::dec, std::ios_base::basefield);
+}
+
+bool CurvePoint::Write(Archive& ar)
 {
     const RecordScope scope(ar, &point);
-    if (version < 600) {
-        Point2d oldForm = point; // Write of a point is not const
-        oldForm.Write(ar);
-    } else {
-        ar << SInt(5, point.x, "x") << Blank << SInt(5, point.y, "y");
-    }
+    // The layout goes over a copy, as the curves have always written a point:
+    // below 600 a field sink is told the old form's fields under the copy.
+    Point2d copy = point;
+    CurvePoint form{copy, version};
+    LayoutWriter io(ar);
+    Layout(io, form);
+    return Healthy(ar);
 }
 
 } // namespace ItUnitechnik

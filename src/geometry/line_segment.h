@@ -5,27 +5,34 @@
 namespace ItUnitechnik {
 
 // The straight piece, kind 'S': the only curve the adders make.
-class LineSegment : public Curve {
+class LineSegment : public CurveOf<LineSegment> {
 public:
     explicit LineSegment(std::int32_t formatVersion);
     LineSegment(std::int32_t formatVersion, const Point2d& startPoint, const Point2d& endPoint);
-    LineSegment(const LineSegment&) = default;
-    LineSegment& operator=(const LineSegment&) = default;
-    ~LineSegment() override;
 
     bool Read(Archive& ar) override;
-    bool Write(Archive& ar) override;
-
-    std::unique_ptr<Curve> clone() const override;
-    void translate(const Vector2d& delta) override;
-    void rotate(const Point2d& centre, const double& angle) override;
-    void mirrorY(const std::int32_t& c) override;
-    void mirrorX(const std::int32_t& c) override;
     BoundingBox boundingBox() const override;
+
+    template <class F>
+    void eachPoint(F f)
+    {
+        f(start);
+        f(end);
+    }
 
     Point2d start;          // first two fields
     Point2d end;            // next two fields
     std::int32_t flags = 0; // last field, four hexadecimal digits; only stored
 };
+
+template <class IO>
+void Layout(IO& io, LineSegment& segment)
+{
+    CoordinatesLayout(io, segment.version, segment.start);
+    io.Blank();
+    CoordinatesLayout(io, segment.version, segment.end);
+    io.Blank();
+    io.Hex(4, segment.flags, "flags");
+}
 
 } // namespace ItUnitechnik

@@ -1,38 +1,16 @@
 #include "geometry/polygon.h"
 
 #include "framework/archive.h"
-#include "framework/field_forms.h"
 #include "framework/read_idioms.h"
 
 namespace ItUnitechnik {
 
 Polygon::Polygon(std::int32_t formatVersion)
-    : Curve(formatVersion), PointCollection([](auto& self) -> auto& { return static_cast<Polygon&>(self).points; }),
-      FlagCollection([](auto& self) -> auto& { return static_cast<Polygon&>(self).segmentFlags; })
+    : CurveOf(formatVersion), PointCollection(Locate<&Polygon::points>), FlagCollection(Locate<&Polygon::segmentFlags>)
 {
 }
 
 Polygon::~Polygon() = default;
-
-bool Polygon::Write(Archive& ar)
-{
-    const RecordScope scope(ar, this);
-    ar << UInt(1, static_cast<std::uint32_t>(points.size()), "points") << Blank;
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        if (i > 1) {
-            ar << Blank;
-        }
-        writeCoordinates(ar, points[i]);
-        ar << Blank;
-        if (i > 0) {
-            // A chain edited out of step with its flags writes 0 for a
-            // missing entry rather than read past the end.
-            const std::int32_t entry = i - 1 < segmentFlags.size() ? segmentFlags[i - 1] : 0;
-            ar << Hex(4, entry, "entry");
-        }
-    }
-    return Healthy(ar);
-}
 
 bool Polygon::Read(Archive& ar)
 {
@@ -48,9 +26,7 @@ bool Polygon::Read(Archive& ar)
         }
         if (i >= 1) {
             std::int32_t entry = 0;
-            ar.setf(std::ios_base::hex, std::ios_base::basefield);
-            ar >> entry;
-            ar.setf(std::ios_base::dec, std::ios_base::basefield);
+            readHexadecimal(ar, entry);
             if (!ar.fail() && ar.valid) {
                 segmentFlags.push_back(entry);
             }
@@ -58,39 +34,6 @@ bool Polygon::Read(Archive& ar)
     }
     SkipLine(ar);
     return Healthy(ar);
-}
-
-std::unique_ptr<Curve> Polygon::clone() const
-{
-    return std::make_unique<Polygon>(*this);
-}
-
-void Polygon::translate(const Vector2d& delta)
-{
-    for (Point2d& point : points) {
-        point.translate(delta);
-    }
-}
-
-void Polygon::rotate(const Point2d& centre, const double& angle)
-{
-    for (Point2d& point : points) {
-        point.rotate(centre, angle);
-    }
-}
-
-void Polygon::mirrorY(const std::int32_t& c)
-{
-    for (Point2d& point : points) {
-        point.mirrorY(c);
-    }
-}
-
-void Polygon::mirrorX(const std::int32_t& c)
-{
-    for (Point2d& point : points) {
-        point.mirrorX(c);
-    }
 }
 
 BoundingBox Polygon::boundingBox() const

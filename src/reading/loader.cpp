@@ -8,6 +8,7 @@
 
 #include <cstring>
 #include <memory>
+#include <utility>
 
 namespace ItUnitechnik {
 namespace {
@@ -29,6 +30,17 @@ public:
 private:
     Notes notes_;
 };
+
+// The curve of a piece, of the piece's version. In place before it is read,
+// so that a reading that stops keeps it.
+template <class C>
+C& PlacedCurve(GeoData& piece)
+{
+    auto owned = std::make_unique<C>(piece.version);
+    C& curve = *owned;
+    piece.curve = std::move(owned);
+    return curve;
+}
 
 } // namespace
 
@@ -161,90 +173,28 @@ void Loader::Load(WeldingPointData& points)
 }
 
 // A piece of outline is a curve of its own class, chosen by the kind
-// character in front of it and owned through a pointer: the curves write
-// themselves through the Archive by their virtual Write, and are made here
-// one kind at a time.
+// character in front of it and owned through a pointer; each curve is read in
+// its own layout.
 void Loader::Load(GeoData& piece)
 {
     piece.elementKind = in_.Char();
     in_.Blank();
-    const std::int32_t version = piece.version;
     switch (piece.elementKind) {
-    case L'S': {
-        // In place before it is read, so that a reading that stops keeps it.
-        auto owned = std::make_unique<LineSegment>(version);
-        LineSegment& line = *owned;
-        piece.curve = std::move(owned);
-        LoadCoordinates(line.start, version);
-        in_.Blank();
-        LoadCoordinates(line.end, version);
-        in_.Blank();
-        line.flags = in_.Hex(4);
+    case L'S':
+        Record(PlacedCurve<LineSegment>(piece));
         break;
-    }
-    case L'K': {
-        // In place before it is read, so that a reading that stops keeps it.
-        auto owned = std::make_unique<Circle>(version);
-        Circle& circle = *owned;
-        piece.curve = std::move(owned);
-        LoadCoordinates(circle.centre, version);
-        in_.Blank();
-        circle.radius = in_.UInt<std::int32_t>(5);
-        in_.Blank();
-        circle.flags = in_.Hex(4);
+    case L'K':
+        Record(PlacedCurve<Circle>(piece));
         break;
-    }
-    case L'B': {
-        // In place before it is read, so that a reading that stops keeps it.
-        auto owned = std::make_unique<Arc>(version);
-        Arc& arc = *owned;
-        piece.curve = std::move(owned);
-        LoadCoordinates(arc.centre, version);
-        in_.Blank();
-        arc.radius = in_.UInt<std::int32_t>(5);
-        in_.Blank();
-        arc.startAngle = in_.UInt<std::int32_t>(3);
-        in_.Blank();
-        arc.endAngle = in_.UInt<std::int32_t>(3);
-        in_.Blank();
-        arc.flags = in_.UInt<std::int32_t>(3);
+    case L'B':
+        Record(PlacedCurve<Arc>(piece));
         Note(Departure::arcFlagsDecimal);
         break;
-    }
-    case L'P': {
-        // In place before it is read, so that a reading that stops keeps it.
-        auto owned = std::make_unique<Polygon>(version);
-        Polygon& polygon = *owned;
-        piece.curve = std::move(owned);
-        const std::size_t count = Count(in_.UInt<std::int64_t>(1));
-        in_.Blank();
-        for (std::size_t i = 0; i < count; ++i) {
-            if (i > 1) {
-                in_.Blank();
-            }
-            polygon.points.emplace_back();
-            LoadCoordinates(polygon.points.back(), version);
-            in_.Blank();
-            if (i > 0) {
-                polygon.segmentFlags.push_back(in_.Hex(4));
-            }
-        }
+    case L'P':
+        Record(PlacedCurve<Polygon>(piece));
         break;
-    }
     default:
         in_.Fail("the kind of an outline piece: B, K, P or S");
-    }
-}
-
-void Loader::LoadCoordinates(Point2d& point, std::int32_t version)
-{
-    // Below 600 a point has the old form; from 600 the curves write it signed.
-    if (version < 600) {
-        Load(point);
-    } else {
-        point.x = in_.SInt<std::int32_t>(5);
-        in_.Blank();
-        point.y = in_.SInt<std::int32_t>(5);
     }
 }
 

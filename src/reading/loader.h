@@ -174,7 +174,6 @@ private:
     void Load(Reinforcement& block);
     void Load(WeldingPointData& points);
     void Load(GeoData& piece);
-    void LoadCoordinates(Point2d& point, std::int32_t version);
 
     template <class T, class... Make>
     void Append(std::vector<T>& entries, Make... make)
