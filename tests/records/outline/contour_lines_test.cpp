@@ -3,6 +3,7 @@
 
 #include "records/outline/contour_test_support.h"
 #include "support/test_support.h"
+#include "support/written.h"
 
 #include <gtest/gtest.h>
 
@@ -16,12 +17,7 @@ using ContourTesting::CircleElement;
 using ContourTesting::Segment;
 using Testing::StringArchive;
 
-std::wstring Written(Serializable& record)
-{
-    StringArchive s;
-    EXPECT_TRUE(record.Write(s.archive));
-    return s.Text();
-}
+using Testing::Written;
 
 TEST(Contour, Defaults)
 {

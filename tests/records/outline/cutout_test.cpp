@@ -6,6 +6,7 @@
 #include "geometry/line_segment.h"
 #include "geometry/polygon.h"
 #include "support/test_support.h"
+#include "support/written.h"
 
 #include <gtest/gtest.h>
 
@@ -26,12 +27,7 @@ GeoData Segment(std::int32_t version, Point2d start, Point2d end)
     return GeoData(version, L'S', std::make_unique<LineSegment>(version, start, end));
 }
 
-std::wstring Written(Serializable& record)
-{
-    StringArchive s;
-    EXPECT_TRUE(record.Write(s.archive));
-    return s.Text();
-}
+using Testing::Written;
 
 Cutout Window(std::int32_t version)
 {

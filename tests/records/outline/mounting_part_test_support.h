@@ -7,6 +7,7 @@
 #include "framework/serializable.h"
 #include "geometry/line_segment.h"
 #include "support/test_support.h"
+#include "support/written.h"
 
 #include <gtest/gtest.h>
 
@@ -24,12 +25,7 @@ inline std::wstring Spaces(std::size_t count)
     return std::wstring(count, L' ');
 }
 
-inline std::wstring Written(Serializable& record)
-{
-    StringArchive s;
-    EXPECT_TRUE(record.Write(s.archive));
-    return s.Text();
-}
+using Testing::Written;
 
 // A part with every field set, as an anchor channel of 3000 by 2000.
 inline MountingPart AnchorChannel(std::int16_t version)

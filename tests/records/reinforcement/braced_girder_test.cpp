@@ -2,6 +2,7 @@
 
 #include "framework/read_idioms.h"
 #include "support/test_support.h"
+#include "support/written.h"
 
 #include <gtest/gtest.h>
 
@@ -12,12 +13,7 @@ namespace {
 
 using Testing::StringArchive;
 
-std::wstring Written(Serializable& record)
-{
-    StringArchive s;
-    EXPECT_TRUE(record.Write(s.archive));
-    return s.Text();
-}
+using Testing::Written;
 
 // The first line of a default girder: number, code, type, blank,
 // designation (10 blanks), blank, size, positions, rotation, mountFlag.

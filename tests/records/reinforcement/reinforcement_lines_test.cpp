@@ -4,6 +4,7 @@
 
 #include "records/reinforcement/reinforcement_test_support.h"
 #include "support/test_support.h"
+#include "support/written.h"
 
 #include <gtest/gtest.h>
 
@@ -19,12 +20,7 @@ using ReinforcementTesting::somewhere;
 using ReinforcementTesting::untouchedTextLine;
 using Testing::StringArchive;
 
-std::wstring Written(Serializable& record)
-{
-    StringArchive s;
-    EXPECT_TRUE(record.Write(s.archive));
-    return s.Text();
-}
+using Testing::Written;
 
 TEST(Reinforcement, Defaults)
 {

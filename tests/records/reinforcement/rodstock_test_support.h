@@ -6,6 +6,7 @@
 
 #include "framework/serializable.h"
 #include "support/test_support.h"
+#include "support/written.h"
 
 #include <gtest/gtest.h>
 
@@ -33,12 +34,7 @@ inline const std::wstring defaultFirstLine600 = L"000 000 0 "
 // aux fields, then the flags 0, 0 and the bending kind '0'.
 inline const std::wstring defaultSecondLine = L"000 000 000 00000 00000 00000 000";
 
-inline std::wstring Written(Serializable& record)
-{
-    StringArchive s;
-    EXPECT_TRUE(record.Write(s.archive));
-    return s.Text();
-}
+using Testing::Written;
 
 // A bar of version 600 with every field of its two lines set.
 inline Rodstock FullBar()

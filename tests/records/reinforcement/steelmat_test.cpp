@@ -2,6 +2,7 @@
 
 #include "framework/read_idioms.h"
 #include "support/test_support.h"
+#include "support/written.h"
 
 #include <gtest/gtest.h>
 
@@ -12,12 +13,7 @@ namespace {
 
 using Testing::StringArchive;
 
-std::wstring Written(Serializable& record)
-{
-    StringArchive s;
-    EXPECT_TRUE(record.Write(s.archive));
-    return s.Text();
-}
+using Testing::Written;
 
 // number, three positions, two flags, blank, name (20 blanks), blank, two
 // dimensions and the kind 1.
