@@ -12,8 +12,6 @@ namespace ItUnitechnik {
 // writes no line end.
 class Plaster : public LaidOut<Plaster> {
 public:
-    Plaster() = default;
-
     bool Read(Archive& ar) override;
 
     std::int32_t plasterNumber = 0; // first field

@@ -13,8 +13,6 @@ namespace ItUnitechnik {
 // blank.
 class AnchorBar final : public LaidOut<AnchorBar> {
 public:
-    AnchorBar() = default;
-
     bool Read(Archive& ar) override;
 
     std::int32_t firstType = 0;    // 3 digits, first on the line

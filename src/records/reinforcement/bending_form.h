@@ -13,8 +13,6 @@ namespace ItUnitechnik {
 // side; the line is ended by whoever writes the bar.
 class BendingForm : public LaidOut<BendingForm> {
 public:
-    BendingForm() = default;
-
     bool Read(Archive& ar) override;
 
     std::wstring formCode;       // at least 3 places, zero-filled; never cut

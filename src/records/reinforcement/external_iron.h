@@ -13,8 +13,6 @@ namespace ItUnitechnik {
 // One external iron: a line of numbers and a text, the same at every version.
 class ExternalIron final : public LaidOut<ExternalIron> {
 public:
-    ExternalIron() = default;
-
     bool Read(Archive& ar) override;
 
     std::int32_t ironNumber = 0; // first on the line, 3 digits; from 1

@@ -12,8 +12,6 @@ namespace ItUnitechnik {
 // One spacer position of a bar: ten five-digit numbers on one line.
 class SpacerPosition final : public LaidOut<SpacerPosition> {
 public:
-    SpacerPosition() = default;
-
     bool Read(Archive& ar) override;
 
     std::int32_t value1 = 0; // first on the line

@@ -13,8 +13,6 @@ namespace ItUnitechnik {
 // Where a welding point meets one crossing bar: an offset and a weld code.
 class WeldingIntersection : public LaidOut<WeldingIntersection> {
 public:
-    WeldingIntersection() = default;
-
     bool Read(Archive& ar) override;
 
     std::int32_t offset = 0;   // 5 digits
@@ -25,8 +23,6 @@ public:
 // are in use.
 class WeldingPoint final : public LaidOut<WeldingPoint> {
 public:
-    WeldingPoint() = default;
-
     bool Read(Archive& ar) override;
 
     std::array<WeldingIntersection, 8> intersections{}; // the whole line, in order
