@@ -25,16 +25,4 @@ void Curve::readHexadecimal(Archive& ar, std::int32_t& value)
     ar.setf(std::ios_base::dec, std::ios_base::basefield);
 }
 
-bool CurvePoint::Write(Archive& ar)
-{
-    const RecordScope scope(ar, &point);
-    // The layout goes over a copy, as the curves have always written a point:
-    // below 600 a field sink is told the old form's fields under the copy.
-    Point2d copy = point;
-    CurvePoint form{copy, version};
-    LayoutWriter io(ar);
-    Layout(io, form);
-    return Healthy(ar);
-}
-
 } // namespace ItUnitechnik

@@ -105,4 +105,16 @@ void CoordinatesLayout(IO& io, std::int32_t version, Point2d& point)
     io.Record(pair);
 }
 
+// The layout goes over a copy, as the curves have always written a point:
+// below 600 a field sink is told the old form's fields under the copy.
+inline bool CurvePoint::Write(Archive& ar)
+{
+    const RecordScope scope(ar, &point);
+    Point2d copy = point;
+    CurvePoint form{copy, version};
+    LayoutWriter io(ar);
+    Layout(io, form);
+    return Healthy(ar);
+}
+
 } // namespace ItUnitechnik
