@@ -249,6 +249,16 @@ TEST(ReadFlag, EveryCharacterButZeroSetsIt)
     EXPECT_TRUE(s.archive.fail());
 }
 
+// A record that only counts the times it is asked to read.
+struct CountedRead {
+    int reads = 0;
+    bool Read(Archive& /*ar*/)
+    {
+        ++reads;
+        return true;
+    }
+};
+
 TEST(ReadInTurn, EachReadsUntilTheFirstThatFails)
 {
     StringArchive s(L"1\n2\nx\n4\n");
@@ -257,10 +267,10 @@ TEST(ReadInTurn, EachReadsUntilTheFirstThatFails)
     EXPECT_TRUE(ReadInTurn(s.archive, first, second));
     EXPECT_EQ(first.value, 1);
     EXPECT_EQ(second.value, 2);
-    NumberLine third;
-    NumberLine fourth;
+    NumberLine third; // meets the "x": the stream fails
+    CountedRead fourth;
     EXPECT_FALSE(ReadInTurn(s.archive, third, fourth));
-    EXPECT_EQ(fourth.value, 0); // not reached
+    EXPECT_EQ(fourth.reads, 0); // never asked to read
 }
 
 } // namespace
