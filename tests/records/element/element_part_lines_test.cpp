@@ -15,6 +15,7 @@ namespace {
 
 using ElementPartTesting::AtVersion;
 using ElementPartTesting::edgeLine;
+using ElementPartTesting::ElementLines;
 using ElementPartTesting::lineA600;
 using ElementPartTesting::lineC;
 using ElementPartTesting::lineD;
@@ -37,34 +38,10 @@ std::vector<std::wstring> Written(ElementPart element)
     return Lines(s.Text());
 }
 
-// The nested records of a default element: its outline lists always, and
-// below 600 the empty lists of loose bars and girders too. They keep their
-// own default version, 502.
-std::vector<std::wstring> Nested(bool below600)
-{
-    std::vector<std::wstring> lines = {L"CONTOUR_", L"502", L"00",       L"END", L"CUTOUT__", L"502",
-                                       L"00",       L"END", L"MOUNPART", L"502", L"000",      L"END"};
-    if (below600) {
-        for (const wchar_t* line : {L"RODSTOCK", L"502", L"000", L"END", L"BRGIRDER", L"502", L"000", L"END"}) {
-            lines.push_back(line);
-        }
-    }
-    return lines;
-}
-
-std::vector<std::wstring> Record(std::vector<std::wstring> own, bool below600)
-{
-    for (const std::wstring& line : Nested(below600)) {
-        own.push_back(line);
-    }
-    own.push_back(L"END SLABDATE");
-    return own;
-}
-
 TEST(ElementPartWrite, DefaultBelow501HasTheShortLinesAndNoLayerLines)
 {
     const std::vector<std::wstring> expected =
-        Record({L"SLABDATE", L"499", shortLineA, shortLineB, lineC, edgeLine, lineD, lineE, L"END"}, true);
+        ElementLines({L"SLABDATE", L"499", shortLineA, shortLineB, lineC, edgeLine, lineD, lineE, L"END"}, true);
     EXPECT_EQ(Written(AtVersion(499)), expected);
     std::vector<std::wstring> at0 = expected;
     at0[1] = L"000";
@@ -77,20 +54,20 @@ TEST(ElementPartWrite, DefaultBelow501HasTheShortLinesAndNoLayerLines)
 TEST(ElementPartWrite, VersionFiveHasTheLongLinesButNoConcreteLines)
 {
     const std::vector<std::wstring> expected =
-        Record({L"SLABDATE", L"005", longLineA, longLineB, lineC, edgeLine, lineD, lineE, L"END"}, true);
+        ElementLines({L"SLABDATE", L"005", longLineA, longLineB, lineC, edgeLine, lineD, lineE, L"END"}, true);
     EXPECT_EQ(Written(AtVersion(5)), expected);
 }
 
 TEST(ElementPartWrite, Version501)
 {
     const std::vector<std::wstring> expected =
-        Record({L"SLABDATE", L"501", longLineA, longLineB, lineC, edgeLine, lineD, lineE, L"END"}, true);
+        ElementLines({L"SLABDATE", L"501", longLineA, longLineB, lineC, edgeLine, lineD, lineE, L"END"}, true);
     EXPECT_EQ(Written(AtVersion(501)), expected);
 }
 
 TEST(ElementPartWrite, Version502HasPlastersConcreteCountAndEdges)
 {
-    const std::vector<std::wstring> expected = Record(
+    const std::vector<std::wstring> expected = ElementLines(
         {L"SLABDATE", L"502", longLineA, longLineB, plasterLine, L"00", lineC, edgeLine, lineD, lineE, L"END"}, true);
     EXPECT_EQ(Written(AtVersion(502)), expected);
 }
@@ -98,7 +75,7 @@ TEST(ElementPartWrite, Version502HasPlastersConcreteCountAndEdges)
 TEST(ElementPartWrite, Versions503To599HaveNeitherPlastersNorEdges)
 {
     for (std::int16_t version : {std::int16_t{503}, std::int16_t{599}}) {
-        const std::vector<std::wstring> expected = Record(
+        const std::vector<std::wstring> expected = ElementLines(
             {L"SLABDATE", std::to_wstring(version), longLineA, longLineB, L"00", lineC, lineD, lineE, L"END"}, true);
         EXPECT_EQ(Written(AtVersion(version)), expected) << version;
     }
@@ -108,9 +85,9 @@ TEST(ElementPartWrite, From600TheNumberIsTextAndLinesFAndGFollow)
 {
     for (std::int16_t version : {std::int16_t{600}, std::int16_t{601}}) {
         const std::vector<std::wstring> expected =
-            Record({L"SLABDATE", std::to_wstring(version), lineA600, longLineB, L"00", lineC, lineD, lineE600, lineF,
-                    Blanks(20), Blanks(20), Blanks(20), Blanks(20), L"END"},
-                   false);
+            ElementLines({L"SLABDATE", std::to_wstring(version), lineA600, longLineB, L"00", lineC, lineD, lineE600,
+                          lineF, Blanks(20), Blanks(20), Blanks(20), Blanks(20), L"END"},
+                         false);
         EXPECT_EQ(Written(AtVersion(version)), expected) << version;
     }
 }

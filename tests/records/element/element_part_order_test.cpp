@@ -14,9 +14,11 @@
 namespace ItUnitechnik {
 namespace {
 
+using ElementPartTesting::ElementLines;
 using ElementPartTesting::ExpectCommonMembers;
 using ElementPartTesting::Filled;
 using Testing::Blanks;
+using Testing::Joined;
 using Testing::JoinLines;
 using Testing::StringArchive;
 
@@ -73,57 +75,38 @@ TEST(OrderWithElement, AFailingElementIsNotKept)
 
 TEST(OrderWithElement, ReadsAFileWrittenByHand)
 {
-    StringArchive s(JoinLines({L"HEADER__",
-                               L"502",
-                               L"ORD-1" + Blanks(3) + L"   ABCDE WXYZ       R8 07 00 " + Blanks(40),
-                               L"Tower A" + Blanks(13),
-                               Blanks(20),
-                               Blanks(20),
-                               Blanks(20),
-                               L"Precast Works" + Blanks(12),
-                               Blanks(25),
-                               Blanks(8),
-                               Blanks(25),
-                               Blanks(25),
-                               Blanks(25),
-                               Blanks(8),
-                               L"Site" + Blanks(21),
-                               L"07.03.2024",
-                               L"0 01 000",
-                               L"END",
-                               L"SLABDATE",
-                               L"502",
-                               L"012 0 00 00 00 000 000 000 000 00 00 0000",
-                               L"00.000 000 00          0.000 00000.0 0000 000 000 000 000 000 0000",
-                               L"000          0.000 00000.0 000          0.000 00000.0",
-                               L"00",
-                               L"00000 00000 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00",
-                               L"00000 00000 00000 00000 00000 00000 00000 00000",
-                               Blanks(8) + L" " + Blanks(4) + L" 0000 0000 00 " + Blanks(30),
-                               L"000000 000000 000000 000000 000000 000000 000000 000000 000000",
-                               L"END",
-                               L"CONTOUR_",
-                               L"502",
-                               L"00",
-                               L"END",
-                               L"CUTOUT__",
-                               L"502",
-                               L"00",
-                               L"END",
-                               L"MOUNPART",
-                               L"502",
-                               L"000",
-                               L"END",
-                               L"RODSTOCK",
-                               L"502",
-                               L"000",
-                               L"END",
-                               L"BRGIRDER",
-                               L"502",
-                               L"000",
-                               L"END",
-                               L"END SLABDATE",
-                               L"END HEADER__"}));
+    StringArchive s(
+        JoinLines(Joined(ElementLines({L"HEADER__",
+                                       L"502",
+                                       L"ORD-1" + Blanks(3) + L"   ABCDE WXYZ       R8 07 00 " + Blanks(40),
+                                       L"Tower A" + Blanks(13),
+                                       Blanks(20),
+                                       Blanks(20),
+                                       Blanks(20),
+                                       L"Precast Works" + Blanks(12),
+                                       Blanks(25),
+                                       Blanks(8),
+                                       Blanks(25),
+                                       Blanks(25),
+                                       Blanks(25),
+                                       Blanks(8),
+                                       L"Site" + Blanks(21),
+                                       L"07.03.2024",
+                                       L"0 01 000",
+                                       L"END",
+                                       L"SLABDATE",
+                                       L"502",
+                                       L"012 0 00 00 00 000 000 000 000 00 00 0000",
+                                       L"00.000 000 00          0.000 00000.0 0000 000 000 000 000 000 0000",
+                                       L"000          0.000 00000.0 000          0.000 00000.0",
+                                       L"00",
+                                       L"00000 00000 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00",
+                                       L"00000 00000 00000 00000 00000 00000 00000 00000",
+                                       Blanks(8) + L" " + Blanks(4) + L" 0000 0000 00 " + Blanks(30),
+                                       L"000000 000000 000000 000000 000000 000000 000000 000000 000000",
+                                       L"END"},
+                                      true),
+                         {L"END HEADER__"})));
     Order order;
     EXPECT_TRUE(order.Read(s.archive));
     EXPECT_EQ(order.version, 502);

@@ -1,6 +1,8 @@
 // Elements read from files written out by hand, line by line.
 #include "records/element/element_part.h"
 
+#include "records/element/element_part_test_support.h"
+
 #include "framework/read_idioms.h"
 #include "support/test_support.h"
 
@@ -9,6 +11,7 @@
 namespace ItUnitechnik {
 namespace {
 
+using ElementPartTesting::ElementLines;
 using Testing::Blanks;
 using Testing::JoinLines;
 using Testing::StringArchive;
@@ -82,39 +85,16 @@ TEST(ElementPartReadFile, Version600)
 
 TEST(ElementPartReadFile, Version502WithPlastersAConcreteLayerAndTheOptionalPair)
 {
-    StringArchive s(JoinLines({L"SLABDATE",
-                               L"502",
-                               L"034 1 22 00 05 333 000 000 007 00 08 4444",
-                               L"01.250 111 22 textB8xx 0.500 00003.5 0200 030 333 444 000 009 0180",
-                               L"012 Kalk     1.250 00030.5 000          0.000 00000.0",
-                               L"01",
-                               L"03 01 1000 C30" + Blanks(5) + L" 1.500 02400.0",
-                               L"06000 02400 +0000 -0003 +0000 +0000 0 00011 0 00000 000010 000020 +01 -02 003 004",
-                               L"00001 00002 00003 00004 00005 00006 00007 00008",
-                               L"abcdefgh wxyz 0012 0000 05 " + Blanks(20) + L"Floor slab",
-                               L"000001 000002 000003 006000 000000 000000 000000 002400 000000",
-                               L"END",
-                               L"CONTOUR_",
-                               L"502",
-                               L"00",
-                               L"END",
-                               L"CUTOUT__",
-                               L"502",
-                               L"00",
-                               L"END",
-                               L"MOUNPART",
-                               L"502",
-                               L"000",
-                               L"END",
-                               L"RODSTOCK",
-                               L"502",
-                               L"000",
-                               L"END",
-                               L"BRGIRDER",
-                               L"502",
-                               L"000",
-                               L"END",
-                               L"END SLABDATE"}));
+    StringArchive s(
+        JoinLines(ElementLines({L"SLABDATE", L"502", L"034 1 22 00 05 333 000 000 007 00 08 4444",
+                                L"01.250 111 22 textB8xx 0.500 00003.5 0200 030 333 444 000 009 0180",
+                                L"012 Kalk     1.250 00030.5 000          0.000 00000.0", L"01",
+                                L"03 01 1000 C30" + Blanks(5) + L" 1.500 02400.0",
+                                L"06000 02400 +0000 -0003 +0000 +0000 0 00011 0 00000 000010 000020 +01 -02 003 004",
+                                L"00001 00002 00003 00004 00005 00006 00007 00008",
+                                L"abcdefgh wxyz 0012 0000 05 " + Blanks(20) + L"Floor slab",
+                                L"000001 000002 000003 006000 000000 000000 000000 002400 000000", L"END"},
+                               true)));
     ElementPart element;
     EXPECT_TRUE(element.Read(s.archive));
     EXPECT_EQ(element.version, 502);
@@ -211,36 +191,14 @@ TEST(ElementPartReadFile, Version499HasTheShortLinesAndNoPlasterOrConcreteLines)
 
 TEST(ElementPartReadFile, VersionFiveHasTheLongLinesButNoConcreteLines)
 {
-    StringArchive s(JoinLines({L"SLABDATE",
-                               L"005",
-                               L"012 0 00 00 00 000 000 000 000 01 02 ABCD",
-                               L"00.000 000 00          0.000 00000.0 0000 000 000 000 000 000 0250",
-                               L"00000 00000 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00",
-                               L"00000 00000 00000 00000 00000 00000 00000 00000",
-                               Blanks(8) + L" " + Blanks(4) + L" 0000 0000 00 " + Blanks(30),
-                               L"000000 000000 000000 000000 000000 000000 000000 000000 000000",
-                               L"END",
-                               L"CONTOUR_",
-                               L"502",
-                               L"00",
-                               L"END",
-                               L"CUTOUT__",
-                               L"502",
-                               L"00",
-                               L"END",
-                               L"MOUNPART",
-                               L"502",
-                               L"000",
-                               L"END",
-                               L"RODSTOCK",
-                               L"502",
-                               L"000",
-                               L"END",
-                               L"BRGIRDER",
-                               L"502",
-                               L"000",
-                               L"END",
-                               L"END SLABDATE"}));
+    StringArchive s(
+        JoinLines(ElementLines({L"SLABDATE", L"005", L"012 0 00 00 00 000 000 000 000 01 02 ABCD",
+                                L"00.000 000 00          0.000 00000.0 0000 000 000 000 000 000 0250",
+                                L"00000 00000 +0000 +0000 +0000 +0000 0 00000 0 00000 000000 000000 +00 +00",
+                                L"00000 00000 00000 00000 00000 00000 00000 00000",
+                                Blanks(8) + L" " + Blanks(4) + L" 0000 0000 00 " + Blanks(30),
+                                L"000000 000000 000000 000000 000000 000000 000000 000000 000000", L"END"},
+                               true)));
     ElementPart element;
     EXPECT_TRUE(element.Read(s.archive));
     EXPECT_EQ(element.version, 5);

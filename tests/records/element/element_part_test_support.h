@@ -12,6 +12,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace ItUnitechnik::ElementPartTesting {
 
@@ -38,6 +39,32 @@ inline const std::wstring lineE = L"000000 000000 000000 000000 000000 000000 00
 inline const std::wstring lineE600 = L"+000000 +000000 +000000 +000000 +000000 +000000 +000000 +000000 +000000";
 inline const std::wstring lineA600 = Blanks(15) + L" 0 00 00 00 000 00000 000 000 00 00 " + Blanks(40);
 inline const std::wstring lineF = L"+00000 +00000 +00000 000";
+
+// The nested records of a default element: its outline lists always, and
+// below 600 the empty lists of loose bars and girders too. They keep their
+// own default version, 502.
+inline std::vector<std::wstring> NestedLines(bool below600)
+{
+    std::vector<std::wstring> lines = {L"CONTOUR_", L"502", L"00",       L"END", L"CUTOUT__", L"502",
+                                       L"00",       L"END", L"MOUNPART", L"502", L"000",      L"END"};
+    if (below600) {
+        for (const wchar_t* line : {L"RODSTOCK", L"502", L"000", L"END", L"BRGIRDER", L"502", L"000", L"END"}) {
+            lines.push_back(line);
+        }
+    }
+    return lines;
+}
+
+// An element's lines: its own, then the nested records of a default
+// element, then the end tag.
+inline std::vector<std::wstring> ElementLines(std::vector<std::wstring> own, bool below600)
+{
+    for (const std::wstring& line : NestedLines(below600)) {
+        own.push_back(line);
+    }
+    own.push_back(L"END SLABDATE");
+    return own;
+}
 
 inline ElementPart Filled(std::int16_t version)
 {
