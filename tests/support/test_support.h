@@ -34,6 +34,9 @@ std::vector<std::wstring> Joined(std::vector<std::wstring> head, const std::vect
 
 // Bytes of a file; empty when it cannot be read.
 std::string ReadFileBytes(const std::string& path);
+
+// Every name directly in the folder, hidden ones and folders too, sorted.
+std::vector<std::string> NamesIn(const std::string& folder);
 bool FileExists(const std::string& path);
 
 // A fresh, empty directory for one test; removed with everything in it.

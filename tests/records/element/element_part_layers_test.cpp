@@ -62,24 +62,10 @@ std::vector<std::wstring> EmptyLayerLines(const std::wstring& dataLine = L"0 000
 // irons.
 std::vector<std::wstring> ReadableLayerLines(const std::wstring& dataLine)
 {
-    return {L"LAYER___",
-            L"502",
-            dataLine,
-            L"END",
-            L"MOUNPART",
-            L"502",
-            L"000",
-            L"END",
-            L"REFORCEM",
-            L"502",
-            Blanks(10) + L" " + Blanks(4) + L" " + Blanks(8) + L" 0",
-            L"END",
-            L"EXTIRON_",
-            L"502",
-            L"000",
-            L"END",
-            L"END REFORCEM",
-            L"END LAYER___"};
+    std::vector<std::wstring> lines = EmptyLayerLines(dataLine);
+    const std::vector<std::wstring> irons = {L"EXTIRON_", L"502", L"000", L"END"};
+    lines.insert(lines.end() - 2, irons.begin(), irons.end()); // before "END REFORCEM"
+    return lines;
 }
 
 Contour Square(std::int32_t side)

@@ -32,17 +32,6 @@ void ExpectFolderAsItWas(const std::string& path)
     EXPECT_EQ(ReadFileBytes(path + "/inside.txt"), "kept");
 }
 
-// Every name directly in the folder, hidden ones and folders too.
-std::vector<std::string> Names(const std::string& folder)
-{
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        names.push_back(entry.path().filename().u8string());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
 TEST(BuildOutputs, TakesThePlaceOfTheEarlierFileWhole)
 {
     TemporaryDirectory directory;
@@ -50,7 +39,7 @@ TEST(BuildOutputs, TakesThePlaceOfTheEarlierFileWhole)
     const ToolResult run = BuildScript(directory.Path(), Script({kStartOrder600}), {"-o", "out.uni"});
     EXPECT_EQ(run.exitCode, 0) << run.err;
     EXPECT_EQ(ReadFileBytes(directory.File("out.uni")), ReadFileBytes(GoldenFile("versions/v600.txt")));
-    EXPECT_EQ(Names(directory.Path()), (std::vector<std::string>{"out.uni", "s.json"}));
+    EXPECT_EQ(NamesIn(directory.Path()), (std::vector<std::string>{"out.uni", "s.json"}));
 }
 
 TEST(BuildOutputs, ABadScriptLeavesTheEarlierFileAsItWas)
@@ -61,7 +50,7 @@ TEST(BuildOutputs, ABadScriptLeavesTheEarlierFileAsItWas)
         BuildScript(directory.Path(), Script({kStartOrder600, R"({"call": "addContur"})"}), {"-o", "out.uni"});
     EXPECT_EQ(run.exitCode, 2);
     EXPECT_EQ(ReadFileBytes(directory.File("out.uni")), kEarlier);
-    EXPECT_EQ(Names(directory.Path()), (std::vector<std::string>{"out.uni", "s.json"}));
+    EXPECT_EQ(NamesIn(directory.Path()), (std::vector<std::string>{"out.uni", "s.json"}));
 }
 
 TEST(BuildOutputs, AFolderInThePlaceOfTheOutputStaysAsItWas)
@@ -72,7 +61,7 @@ TEST(BuildOutputs, AFolderInThePlaceOfTheOutputStaysAsItWas)
     EXPECT_EQ(run.exitCode, 3);
     EXPECT_EQ(run.err, ToolError("s.json: call 1 (endDocument): cannot write \"out.uni\""));
     ExpectFolderAsItWas(directory.File("out.uni"));
-    EXPECT_EQ(Names(directory.Path()), (std::vector<std::string>{"out.uni", "s.json"}));
+    EXPECT_EQ(NamesIn(directory.Path()), (std::vector<std::string>{"out.uni", "s.json"}));
 }
 
 TEST(BuildOutputs, ADumpedDocumentIsWrittenWholeOrNotAtAll)
@@ -89,7 +78,7 @@ TEST(BuildOutputs, ADumpedDocumentIsWrittenWholeOrNotAtAll)
     const ToolResult run = RunTool({"build", "v600.json", "-o", "out.uni"}, directory.Path());
     EXPECT_EQ(run.exitCode, 0) << run.err;
     EXPECT_EQ(ReadFileBytes(directory.File("out.uni")), ReadFileBytes(GoldenFile("versions/v600.txt")));
-    EXPECT_EQ(Names(directory.Path()), (std::vector<std::string>{"folder.uni", "out.uni", "v600.json"}));
+    EXPECT_EQ(NamesIn(directory.Path()), (std::vector<std::string>{"folder.uni", "out.uni", "v600.json"}));
 }
 
 TEST(ConvertOutputs, TakesThePlaceOfTheEarlierFileWhole)
@@ -100,7 +89,7 @@ TEST(ConvertOutputs, TakesThePlaceOfTheEarlierFileWhole)
         RunTool({"convert", GoldenFile("slab/slab-600.txt"), "--version", "502", "-o", "out.txt"}, directory.Path());
     EXPECT_EQ(run.exitCode, 1) << run.err; // the texts that 502 cuts
     EXPECT_EQ(ReadFileBytes(directory.File("out.txt")), ReadFileBytes(GoldenFile("slab/slab-502.txt")));
-    EXPECT_EQ(Names(directory.Path()), std::vector<std::string>{"out.txt"});
+    EXPECT_EQ(NamesIn(directory.Path()), std::vector<std::string>{"out.txt"});
 }
 
 TEST(ConvertOutputs, AFileThatDoesNotReadToItsEndLeavesTheEarlierFileAsItWas)
@@ -111,7 +100,7 @@ TEST(ConvertOutputs, AFileThatDoesNotReadToItsEndLeavesTheEarlierFileAsItWas)
         {"convert", ToolTestFile("check/inputs/cut-off.txt"), "--version", "502", "-o", "out.txt"}, directory.Path());
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(ReadFileBytes(directory.File("out.txt")), kEarlier);
-    EXPECT_EQ(Names(directory.Path()), std::vector<std::string>{"out.txt"});
+    EXPECT_EQ(NamesIn(directory.Path()), std::vector<std::string>{"out.txt"});
 }
 
 TEST(ConvertOutputs, AFolderInThePlaceOfTheOutputStaysAsItWas)
@@ -123,7 +112,7 @@ TEST(ConvertOutputs, AFolderInThePlaceOfTheOutputStaysAsItWas)
     EXPECT_EQ(run.exitCode, 3);
     EXPECT_EQ(run.err, ToolError("cannot write \"out.txt\""));
     ExpectFolderAsItWas(directory.File("out.txt"));
-    EXPECT_EQ(Names(directory.Path()), std::vector<std::string>{"out.txt"});
+    EXPECT_EQ(NamesIn(directory.Path()), std::vector<std::string>{"out.txt"});
 }
 
 TEST(RenderOutputs, TakesThePlaceOfTheEarlierFileWhole)
@@ -134,7 +123,7 @@ TEST(RenderOutputs, TakesThePlaceOfTheEarlierFileWhole)
     EXPECT_EQ(run.exitCode, 0) << run.err;
     EXPECT_EQ(ReadFileBytes(directory.File("slab.svg")),
               RunTool({"render", GoldenFile("slab/slab-600.txt")}, directory.Path()).out);
-    EXPECT_EQ(Names(directory.Path()), std::vector<std::string>{"slab.svg"});
+    EXPECT_EQ(NamesIn(directory.Path()), std::vector<std::string>{"slab.svg"});
 }
 
 TEST(RenderOutputs, AnElementTheFileDoesNotHoldLeavesTheEarlierFileAsItWas)
@@ -145,7 +134,7 @@ TEST(RenderOutputs, AnElementTheFileDoesNotHoldLeavesTheEarlierFileAsItWas)
         RunTool({"render", GoldenFile("slab/slab-600.txt"), "--element", "9", "-o", "slab.svg"}, directory.Path());
     EXPECT_EQ(run.exitCode, 2);
     EXPECT_EQ(ReadFileBytes(directory.File("slab.svg")), kEarlier);
-    EXPECT_EQ(Names(directory.Path()), std::vector<std::string>{"slab.svg"});
+    EXPECT_EQ(NamesIn(directory.Path()), std::vector<std::string>{"slab.svg"});
 }
 
 TEST(RenderOutputs, AFolderInThePlaceOfTheOutputStaysAsItWas)
@@ -156,7 +145,7 @@ TEST(RenderOutputs, AFolderInThePlaceOfTheOutputStaysAsItWas)
     EXPECT_EQ(run.exitCode, 3);
     EXPECT_EQ(run.err, ToolError("cannot write \"slab.svg\""));
     ExpectFolderAsItWas(directory.File("slab.svg"));
-    EXPECT_EQ(Names(directory.Path()), std::vector<std::string>{"slab.svg"});
+    EXPECT_EQ(NamesIn(directory.Path()), std::vector<std::string>{"slab.svg"});
 }
 
 bool IsPage(const std::string& text)
@@ -199,7 +188,7 @@ TEST(RenderOutputs, HtmlAskedForAnSvgFileIsABadCommandLine)
     EXPECT_EQ(run.exitCode, 2);
     EXPECT_EQ(run.err, ToolError("--html writes an HTML page, but \"slab.svg\" names an SVG drawing: leave out "
                                  "--html, or name the page .html"));
-    EXPECT_TRUE(Names(directory.Path()).empty());
+    EXPECT_TRUE(NamesIn(directory.Path()).empty());
 }
 
 } // namespace

@@ -20,19 +20,9 @@
 namespace ItUnitechnik::Tool {
 namespace {
 
+using Testing::NamesIn;
 using Testing::ReadFileBytes;
 using Testing::TemporaryDirectory;
-
-// Every name in the folder, folders too, sorted.
-std::vector<std::string> Names(const std::string& folder)
-{
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        names.push_back(entry.path().filename().u8string());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
 
 void Put(const std::string& path, const std::string& bytes)
 {
@@ -71,7 +61,7 @@ TEST(WriteWholeFile, ReplacesTheFileOnlyWhenTheNewOneIsWhole)
     EXPECT_EQ(ReadFileBytes(path), "HEADER__");
     EXPECT_NE(temporary, path);
     EXPECT_EQ(std::filesystem::path(temporary).parent_path(), std::filesystem::path(path).parent_path());
-    EXPECT_EQ(Names(folder.Path()), std::vector<std::string>{"slab.uni"});
+    EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"slab.uni"});
 }
 
 TEST(WriteWholeFile, MakesAFileThatWasNotThere)
@@ -82,7 +72,7 @@ TEST(WriteWholeFile, MakesAFileThatWasNotThere)
         return true;
     }));
     EXPECT_EQ(ReadFileBytes(folder.File("new.uni")), "HEADER__");
-    EXPECT_EQ(Names(folder.Path()), std::vector<std::string>{"new.uni"});
+    EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"new.uni"});
 }
 
 TEST(WriteWholeFile, AFailingRenameLeavesTheEarlierFileAndNoTemporary)
@@ -99,7 +89,7 @@ TEST(WriteWholeFile, AFailingRenameLeavesTheEarlierFileAndNoTemporary)
         FailingRename);
     EXPECT_FALSE(wrote);
     EXPECT_EQ(ReadFileBytes(path), "earlier");
-    EXPECT_EQ(Names(folder.Path()), std::vector<std::string>{"slab.uni"});
+    EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"slab.uni"});
 }
 
 TEST(WriteWholeFile, AFailingWriteLeavesTheEarlierFileAndNoTemporary)
@@ -118,7 +108,7 @@ TEST(WriteWholeFile, AFailingWriteLeavesTheEarlierFileAndNoTemporary)
     EXPECT_FALSE(wrote);
     EXPECT_EQ(renames, 0);
     EXPECT_EQ(ReadFileBytes(path), "earlier");
-    EXPECT_EQ(Names(folder.Path()), std::vector<std::string>{"slab.uni"});
+    EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"slab.uni"});
 }
 
 TEST(WriteWholeFile, AWriteThatThrowsLeavesNoTemporary)
@@ -133,7 +123,7 @@ TEST(WriteWholeFile, AWriteThatThrowsLeavesNoTemporary)
                                 }),
                  std::runtime_error);
     EXPECT_EQ(ReadFileBytes(path), "earlier");
-    EXPECT_EQ(Names(folder.Path()), std::vector<std::string>{"slab.uni"});
+    EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"slab.uni"});
 }
 
 TEST(WriteWholeFile, AFolderInTheFilesPlaceStaysAsItWas)
@@ -149,9 +139,9 @@ TEST(WriteWholeFile, AFolderInTheFilesPlaceStaysAsItWas)
     });
     EXPECT_FALSE(wrote);
     EXPECT_TRUE(std::filesystem::is_directory(path));
-    EXPECT_EQ(Names(path), std::vector<std::string>{"inside.txt"});
+    EXPECT_EQ(NamesIn(path), std::vector<std::string>{"inside.txt"});
     EXPECT_EQ(ReadFileBytes(path + "/inside.txt"), "kept");
-    EXPECT_EQ(Names(folder.Path()), std::vector<std::string>{"slab.uni"});
+    EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"slab.uni"});
 }
 
 TEST(WriteWholeFile, AMissingFolderIsNotWrittenTo)
@@ -163,7 +153,7 @@ TEST(WriteWholeFile, AMissingFolderIsNotWrittenTo)
         return true;
     }));
     EXPECT_FALSE(called);
-    EXPECT_TRUE(Names(folder.Path()).empty());
+    EXPECT_TRUE(NamesIn(folder.Path()).empty());
 }
 
 #ifndef _WIN32
@@ -180,7 +170,7 @@ TEST(WriteWholeFile, TheStreamFilesOfADocumentFollowIt)
         return true;
     }));
     EXPECT_EQ(ReadFileBytes(path + ":order0"), "legacy text of order 0");
-    EXPECT_EQ(Names(folder.Path()), (std::vector<std::string>{"slab.uni", "slab.uni:order0"}));
+    EXPECT_EQ(NamesIn(folder.Path()), (std::vector<std::string>{"slab.uni", "slab.uni:order0"}));
 }
 
 TEST(WriteWholeFile, TheStreamFilesOfAFailedWriteAreRemoved)
@@ -198,7 +188,7 @@ TEST(WriteWholeFile, TheStreamFilesOfAFailedWriteAreRemoved)
         },
         FailingRename));
     EXPECT_EQ(ReadFileBytes(path + ":order0"), "earlier stream");
-    EXPECT_EQ(Names(folder.Path()), (std::vector<std::string>{"slab.uni", "slab.uni:order0"}));
+    EXPECT_EQ(NamesIn(folder.Path()), (std::vector<std::string>{"slab.uni", "slab.uni:order0"}));
 }
 
 TEST(WriteWholeFile, ALinkStaysALinkToTheNewFile)
@@ -214,7 +204,7 @@ TEST(WriteWholeFile, ALinkStaysALinkToTheNewFile)
     }));
     EXPECT_TRUE(std::filesystem::is_symlink(folder.File("slab.uni")));
     EXPECT_EQ(ReadFileBytes(file), "HEADER__");
-    EXPECT_EQ(Names(folder.File("store")), std::vector<std::string>{"slab.uni"});
+    EXPECT_EQ(NamesIn(folder.File("store")), std::vector<std::string>{"slab.uni"});
 }
 
 TEST(WriteWholeFile, TheNewFileKeepsTheModeOfTheEarlierOne)
@@ -246,7 +236,7 @@ TEST(WriteWholeFile, AFileThatMayNotBeWrittenStaysAsItWas)
         return true;
     }));
     EXPECT_EQ(ReadFileBytes(path), "earlier");
-    EXPECT_EQ(Names(folder.Path()), std::vector<std::string>{"slab.uni"});
+    EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"slab.uni"});
 }
 
 TEST(WriteWholeFile, ADeviceIsWrittenStraight)
